@@ -1,0 +1,329 @@
+#include "noticefile/strict_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <span>
+#include <type_traits>
+#include <initializer_list>
+#include <span>
+#include <type_traits>
+#include <variant>
+
+#include "noticefile/key_table.h"
+#include "noticefile/strict_tables.h"
+#include "platform/coordinates.h"
+#include "platform/dates.h"
+#include "platform/text.h"
+
+namespace zamo {
+namespace {
+
+bool isOneOf(std::string_view value, std::span<const std::string_view> accepted) {
+  return std::any_of(accepted.begin(), accepted.end(),
+                     [value](std::string_view one) { return equalsIgnoringCase(one, value); });
+}
+
+// Adds the report's line for a message and gives false.
+bool refuse(StrictReading& reading, std::string_view message, Gap gap = Gap::narrow) {
+  reading.report.append(reading.prefix).append(" : Error : Line No : ");
+  reading.report.append(std::to_string(reading.lines.lineNo()));
+  if (gap == Gap::wide) reading.report.push_back(' ');
+  reading.report.append(message).append(kLineEnd);
+  return false;
+}
+
+// Tests of one value that isn't empty. Each gives whether it was accepted.
+
+bool accepts(StrictReading& reading, const EnumerationRule& rule, std::string_view value) {
+  return isOneOf(value, rule.accepted) || refuse(reading, rule.message, rule.gap);
+}
+
+bool accepts(StrictReading& reading, const FreeTextRule& rule, std::string_view value) {
+  bool good = true;
+  if (!rule.doubleBlankMessage.empty() && value.find("  ") != std::string_view::npos) {
+    good = refuse(reading, rule.doubleBlankMessage, rule.gap);
+  }
+  if (value.size() > rule.limit) good = refuse(reading, rule.limitMessage, rule.gap);
+  return good;
+}
+
+bool accepts(StrictReading& reading, const LengthRule& rule, std::string_view value) {
+  return value.size() <= rule.limit || refuse(reading, rule.message);
+}
+
+bool hasForm(std::string_view value, NumberForm form, const Yield& yield) {
+  switch (form) {
+    case NumberForm::numeric:
+      return isNumericText(value);
+    case NumberForm::integer:
+      return isNumericText(value) && value.find('.') == std::string_view::npos;
+    case NumberForm::digits:
+      return isAllDigits(value, yield);
+    case NumberForm::notNumeric:
+      return !isNumericText(value);
+    case NumberForm::notDigits:
+      return !isAllDigits(value, yield);
+  }
+  return false;
+}
+
+bool accepts(StrictReading& reading, const NumberRule& rule, std::string_view value) {
+  const bool short_enough = rule.limit == 0 || value.size() <= rule.limit;
+  return (short_enough && hasForm(value, rule.form, reading.yield)) || refuse(reading, rule.message, rule.gap);
+}
+
+// Whether a part of a coordinate is digits alone and below `bound`.
+bool isPartBelow(std::string_view part, int bound, const Yield& yield) {
+  return isAllDigits(part, yield) && leadingNumber(part) < bound;
+}
+
+bool accepts(StrictReading& reading, const CoordinateRule& rule, std::string_view value) {
+  const std::size_t longest = rule.isLongitude ? 8 : 7;
+  if (value.size() != longest && value.size() != longest - 2) return refuse(reading, rule.formatMessage, rule.gap);
+  const std::string_view degrees = rule.isLongitude ? longDeg(value) : latDeg(value);
+  const std::string_view minutes = rule.isLongitude ? longMin(value) : latMin(value);
+  const std::string_view seconds = rule.isLongitude ? longSec(value) : latSec(value);
+  bool good = true;
+  if (!isPartBelow(degrees, rule.degreeBound, reading.yield)) good = refuse(reading, rule.degreeMessage, rule.gap);
+  if (!isPartBelow(minutes, 60, reading.yield)) good = refuse(reading, rule.minuteMessage, rule.gap);
+  if (!seconds.empty() && !isPartBelow(seconds, 60, reading.yield)) {
+    good = refuse(reading, rule.secondMessage, rule.gap);
+  }
+  return good;
+}
+
+bool accepts(StrictReading& reading, const DateRule& rule, std::string_view value) {
+  std::string day;
+  std::string month;
+  std::string year;
+  splitDate(normalizeDate(value), day, month, year);
+  const bool good = parseDate(day + "/" + month + "/" + year).has_value() &&
+                    isYear2000OrLater(static_cast<int>(leadingNumber(year)));
+  return good || refuse(reading, rule.message, Gap::wide);
+}
+
+struct PlanEntryRule {
+  std::string_view key = kPlanEntryKey;
+};
+
+bool accepts(StrictReading& reading, const PlanEntryRule&, std::string_view value) {
+  const double number = leadingNumber(value);
+  return (isNumericText(value) && value.size() <= 1 && number >= 1 && number <= 5) ||
+         refuse(reading, kPlanEntryMessage, Gap::wide);
+}
+
+struct SystemVariantRule {
+  std::string_view key = kSystemVariantKey;
+};
+
+bool accepts(StrictReading& reading, const SystemVariantRule&, std::string_view value) {
+  if (value.size() >= 3) return refuse(reading, kSystemVariantLength);
+  constexpr std::string_view letters = "ABCDEF";
+  constexpr std::string_view digits = "12357";
+  const bool good = value.size() == 2 && letters.find(value[0]) != std::string_view::npos &&
+                    digits.find(value[1]) != std::string_view::npos;
+  return good || refuse(reading, kSystemVariantValues);
+}
+
+// The rule of each slot of the key table.
+using Rule = std::variant<std::monostate, const EnumerationRule*, const FreeTextRule*, const LengthRule*,
+                          const NumberRule*, const CoordinateRule*, const DateRule*, const PlanEntryRule*,
+                          const SystemVariantRule*>;
+
+constexpr PlanEntryRule kPlanEntry[] = {{}};
+constexpr SystemVariantRule kSystemVariant[] = {{}};
+
+constexpr std::array<Rule, kNoticeKeys.size()> makeRulesBySlot() {
+  std::array<Rule, kNoticeKeys.size()> rules{};
+  const auto place = [&rules](const auto& table) {
+    for (const auto& rule : table) {
+      const auto* slot = std::find(kNoticeKeys.begin(), kNoticeKeys.end(), rule.key);
+      rules[static_cast<std::size_t>(slot - kNoticeKeys.begin())] = &rule;
+    }
+  };
+  place(kEnumerations);
+  place(kFreeTexts);
+  place(kLengths);
+  place(kNumbers);
+  place(kNoticeCoordinates);
+  place(kDates);
+  place(kPlanEntry);
+  place(kSystemVariant);
+  return rules;
+}
+
+constexpr std::array<Rule, kNoticeKeys.size()> kRules = makeRulesBySlot();
+
+constexpr std::size_t rulesPlaced() {
+  return static_cast<std::size_t>(
+      std::count_if(kRules.begin(), kRules.end(), [](const Rule& rule) { return rule.index() != 0; }));
+}
+static_assert(rulesPlaced() == std::size(kEnumerations) + std::size(kFreeTexts) + std::size(kLengths) +
+                                   std::size(kNumbers) + std::size(kNoticeCoordinates) + std::size(kDates) + 2);
+
+bool acceptsByRule(StrictReading& reading, const Rule& rule, std::string_view value) {
+  return std::visit(
+      [&](auto known) {
+        if constexpr (std::is_same_v<decltype(known), std::monostate>) {
+          return true;
+        } else {
+          return accepts(reading, *known, value);
+        }
+      },
+      rule);
+}
+
+bool isTag(std::string_view line, std::string_view tag) { return isTagLine(line) && equalsIgnoringCase(line, tag); }
+
+// Hands each key line of a section that has a "t_" key to `onKey`, and then each line to `onLine`.
+template <typename OnKey, typename OnLine>
+bool readSection(StrictReading& reading, std::initializer_list<std::string_view> closingTags, OnKey onKey,
+                 OnLine onLine) {
+  const auto closes = [&reading](std::string_view tag) { return isTag(reading.currentLine, tag); };
+  bool good = true;
+  while (!reading.lines.exhausted() && std::none_of(closingTags.begin(), closingTags.end(), closes)) {
+    if (splitKeyValue(reading.currentLine, reading.keyValue) && hasKeyPrefix(reading.keyValue.key)) {
+      good = onKey(reading.keyValue.key, reading.keyValue.value) && good;
+    }
+    good = onLine() && good;
+    readLine(reading);
+  }
+  return good;
+}
+
+template <typename OnKey>
+bool readSection(StrictReading& reading, std::initializer_list<std::string_view> closingTags, OnKey onKey) {
+  return readSection(reading, closingTags, onKey, [] { return true; });
+}
+
+bool acceptsAdm(StrictReading& reading, std::string_view value, bool isNumber, Gap gap) {
+  return value.empty() || (!isNumber && value.size() < 4) ||
+         refuse(reading, " t_adm : cannot have more than 3 Characters (B)", gap);
+}
+
+// A section of azimuth keys: `stem` and the azimuth. A numeric azimuth behind another stem passes in silence.
+template <typename Accepts>
+bool readAzimuths(StrictReading& reading, std::string_view closingTag, std::string_view stem, Accepts acceptsValue,
+                  std::string_view message) {
+  return readSection(reading, {closingTag}, [&](std::string_view key, std::string_view value) {
+    std::string_view azimuth;
+    if (!parseAzimuthKey(key, azimuth)) return refuse(reading, kUndefinedKey);
+    if (!key.starts_with(stem) || value.empty() || acceptsValue(value)) return true;
+    return refuse(reading, std::string(" ").append(key).append(message));
+  });
+}
+
+bool readDiagram(StrictReading& reading, std::string_view closingTag) {
+  const auto acceptsValue = [](std::string_view value) { return value.size() <= 4 && isNumericText(value); };
+  return readAzimuths(reading, closingTag, "t_attn@azm", acceptsValue,
+                      " : Value must be numerical and cannot exceed 4 digits");
+}
+
+struct Subsection {
+  std::string_view tag;
+  bool (*read)(StrictReading&);
+};
+
+// clang-format off
+constexpr Subsection kSubsections[] = {
+    {"<POINT>",        valReadPoint},
+    {"<COORDINATION>", valReadCoord},
+    {"<COORD>",        valReadCoord},
+    {"<ANT_HGT>",      valReadAntHgt},
+    {"<ANT_DIAGR_H>",  valReadAntDiagrH},
+    {"<ANT_DIAGR_V>",  valReadAntDiagrV},
+};
+// clang-format on
+
+// Reads the subsection that the current line opens, if it opens one.
+bool readSubsection(StrictReading& reading) {
+  if (!isTagLine(reading.currentLine)) return true;
+  for (const Subsection& subsection : kSubsections) {
+    if (!equalsIgnoringCase(reading.currentLine, subsection.tag)) continue;
+    readLine(reading);
+    return subsection.read(reading);
+  }
+  return true;
+}
+
+}  // namespace
+
+bool hasKeyPrefix(std::string_view key) { return key.size() >= 2 && lowerChar(key[0]) == 't' && key[1] == '_'; }
+
+bool valReadHead(StrictReading& reading) {
+  return readSection(reading, {"</HEAD>"}, [&](std::string_view key, std::string_view value) {
+    if (key == "t_adm") return acceptsAdm(reading, value, isNumericText(value), Gap::narrow);
+    if (key == "t_email_addr") {
+      return value.size() <= 50 ||
+             refuse(reading, " t_email_addr : Maximum number of alphanumerical characters is 50");
+    }
+    return key == "t_char_set" || key == "t_d_sent" || refuse(reading, kUndefinedKey);
+  });
+}
+
+bool valReadNotice(StrictReading& reading) {
+  const std::int64_t startLine = reading.lines.lineNo();
+  bool sawNoticeType = false;
+  const auto onKey = [&](std::string_view key, std::string_view value) {
+    const std::size_t slot = keySlot(key);
+    if (slot == kNoKey) return refuse(reading, kUndefinedKey, Gap::wide);
+    if (value.empty()) return true;
+    const bool accepted = acceptsByRule(reading, kRules[slot], value);
+    if (accepted && key == "t_notice_type") sawNoticeType = true;
+    return accepted;
+  };
+  const bool good = readSection(reading, {"</NOTICE>"}, onKey, [&] { return readSubsection(reading); });
+  if (!good || sawNoticeType) return good;
+  reading.report.append(reading.prefix).append(" : <NOTICE> started at line : ").append(std::to_string(startLine));
+  reading.report.append(" has a  FATAL ERROR t_notice_type is not provided. Cannot proceed further");
+  reading.report.append(kLineEnd);
+  return false;
+}
+
+bool valReadTail(StrictReading& reading, std::int64_t noticesRead) {
+  const std::string read = std::to_string(noticesRead);
+  return readSection(reading, {"</TAIL>"}, [&](std::string_view key, std::string_view value) {
+    if (key != "t_num_notices") return true;
+    if (value.empty()) {
+      return refuse(reading, " t_num_notices : Value must be notified. The number of notices read : " + read);
+    }
+    bool good = isNumericText(value) || refuse(reading, " t_num_notices : Value must be an integer");
+    if (leadingNumber(value) != static_cast<double>(noticesRead)) {
+      good = refuse(reading, std::string(" t_num_notices : The number of notices notified : ")
+                                 .append(value)
+                                 .append(" and the number of notices read : ")
+                                 .append(read));
+    }
+    return good;
+  });
+}
+
+bool valReadPoint(StrictReading& reading) {
+  return readSection(reading, {"</POINT>"}, [&](std::string_view key, std::string_view value) {
+    for (const CoordinateRule& rule : kPointCoordinates) {
+      if (key == rule.key) return value.empty() || accepts(reading, rule, value);
+    }
+    refuse(reading, kUndefinedKey);
+    return true;  // told, and yet the point counts as good
+  });
+}
+
+bool valReadCoord(StrictReading& reading) {
+  return readSection(reading, {"</COORDINATION>", "</COORD>"}, [&](std::string_view key, std::string_view value) {
+    if (key != "t_adm") return refuse(reading, kUndefinedKey);
+    return acceptsAdm(reading, value, isAllDigits(value, reading.yield), Gap::wide);
+  });
+}
+
+bool valReadAntHgt(StrictReading& reading) {
+  const auto acceptsValue = [](std::string_view value) { return hasForm(value, NumberForm::integer, {}); };
+  return readAzimuths(reading, "</ANT_HGT>", "t_eff_hgt@azm", acceptsValue,
+                      " : Value should be between [-3000, 3000]");
+}
+
+bool valReadAntDiagrH(StrictReading& reading) { return readDiagram(reading, "</ANT_DIAGR_H>"); }
+
+bool valReadAntDiagrV(StrictReading& reading) { return readDiagram(reading, "</ANT_DIAGR_V>"); }
+
+}  // namespace zamo

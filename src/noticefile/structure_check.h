@@ -1,0 +1,25 @@
+// The first look at a notice file: its section tags alone.
+#pragma once
+
+#include <string>
+
+#include "noticefile/line_source.h"
+#include "platform/host.h"
+
+namespace zamo {
+
+// What a stage of the pipeline made of a file. `machineFailed` tells that the verdict comes from an error of the
+// machine, which the user has been shown, and not from the file's content.
+struct StageResult {
+  bool passed = false;
+  bool machineFailed = false;
+};
+
+// Whether the file holds exactly one <HEAD>, exactly one <TAIL> and at least one <NOTICE>, each section closed.
+// `errText` takes what is wrong, or the count of notices when nothing is.
+StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName);
+
+// The same on lines; `fileName` stands in the messages. Throws RunTimeError.
+bool checkStructureOfLines(LineSource& lines, std::string& errText, std::string_view fileName);
+
+}  // namespace zamo

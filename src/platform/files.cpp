@@ -1,0 +1,83 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "platform/run_time_error.h"
+
+namespace zamo {
+namespace {
+
+class OpenFile {
+ public:
+  OpenFile(std::string path, int flags) : path_(std::move(path)), descriptor_(::open(path_.c_str(), flags, 0666)) {
+    if (descriptor_ < 0) throw fileError(errno, path_);
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  ~OpenFile() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+  }
+
+  void write(std::string_view content) {
+    while (!content.empty()) {
+      const ssize_t written = ::write(descriptor_, content.data(), content.size());
+      if (written < 0 && errno == EINTR) continue;
+      if (written < 0) throw fileError(errno, path_);
+      content.remove_prefix(static_cast<std::size_t>(written));
+    }
+  }
+
+  void closeFlushed() {
+    const bool flushed = ::fsync(descriptor_) == 0 || errno == EINVAL;
+    const int flushError = errno;
+    if (::close(std::exchange(descriptor_, -1)) != 0) throw fileError(errno, path_);
+    if (!flushed) throw fileError(flushError, path_);
+  }
+
+ private:
+  std::string path_;
+  int descriptor_;
+};
+
+}  // namespace
+
+bool fileExists(const std::string& path, const Yield& yield) {
+  if (yield) yield();
+  std::error_code error;
+  return std::filesystem::exists(path, error);
+}
+
+void replaceFile(const std::string& path, std::string_view content) {
+  const std::string beside = path + ".part";
+  try {
+    OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+    file.write(content);
+    file.closeFlushed();
+    if (std::rename(beside.c_str(), path.c_str()) != 0) throw fileError(errno, path);
+  } catch (const RunTimeError&) {
+    ::unlink(beside.c_str());
+    throw;
+  }
+}
+
+void appendToFile(const std::string& path, std::string_view content) {
+  OpenFile file(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC);
+  file.write(content);
+}
+
+std::string baseOf(std::string_view path) { return std::string(path.substr(0, path.size() < 4 ? 0 : path.size() - 4)); }
+
+std::string executableFolder() {
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+}
+
+}  // namespace zamo

@@ -1,0 +1,27 @@
+// Files by path: what is there, and writing that never leaves half a file under its final name.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/numbers.h"
+
+namespace zamo {
+
+// True if the operating system finds something of that name. Errors count as not found. Yields once.
+bool fileExists(const std::string& path, const Yield& yield = {});
+
+// Puts `content` in place of the file: it is written beside it, flushed to the disk and renamed over it.
+// On failure the old file stands as it was and a RunTimeError is thrown.
+void replaceFile(const std::string& path, std::string_view content);
+
+// Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
+void appendToFile(const std::string& path, std::string_view content);
+
+// A path less its last four characters, whatever they are.
+std::string baseOf(std::string_view path);
+
+// The folder of the running executable, without a separator at its end.
+std::string executableFolder();
+
+}  // namespace zamo

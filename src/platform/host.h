@@ -1,0 +1,54 @@
+// What the host gives to everything below the window, as one record of functions.
+// Text is in the code page; paths are as the operating system has them.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/dates.h"
+#include "platform/numbers.h"
+
+namespace zamo {
+
+enum class BoxIcon { none, information, exclamation, exclamationAndInformation };
+
+struct Box {
+  std::string text;
+  std::string title;  // empty: the program's own name
+  BoxIcon icon = BoxIcon::none;
+};
+
+struct OpenFileRequest {
+  std::string folder;  // where the dialog starts, as the user set it
+  // Captions and patterns as the system has always written them: "Text Files (*.txt)|*.txt|..."
+  std::string filter;
+};
+
+struct Host {
+  std::function<void(const Box&)> showBox;
+  std::function<bool(const Box&)> askYesNo;
+  std::function<void(std::string_view)> setStatus;
+  std::function<void()> repaint;
+  Yield yield;
+  std::function<void(bool)> setHourglass;
+  std::function<DateTime()> now;
+  std::function<std::string()> systemLogonName;
+  std::function<std::string(std::string_view key)> readSetting;
+  std::function<void(std::string_view key, std::string_view value)> saveSetting;
+  // The path of the file or folder that the user chose; nothing on Cancel.
+  std::function<std::optional<std::string>(const OpenFileRequest&)> openFile;
+  std::function<std::optional<std::string>(std::string_view title)> chooseFolder;
+  // Starts the first text viewer there is on a file; false when there is none.
+  std::function<bool(const std::string& path)> startTextViewer;
+};
+
+// The first 8 characters of the logon name, those that are NUL left out.
+std::string getLogonName(const Host& host);
+
+// The box in which an operation tells of a failure of the machine. The title is the operation's name.
+// With the number 0 nothing is shown.
+void showRunTimeError(const Host& host, int number, std::string_view title, std::string_view description);
+
+}  // namespace zamo

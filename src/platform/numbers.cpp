@@ -1,0 +1,85 @@
+#include "platform/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+#include <system_error>
+
+#include "platform/text.h"
+
+namespace zamo {
+namespace {
+
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t digitsFrom(std::string_view text, std::size_t at) {
+  while (at < text.size() && isDigit(text[at])) ++at;
+  return at;
+}
+
+// The length of the number at the head of `text`, its sign included; 0 when there is none.
+std::size_t numberLength(std::string_view text) {
+  std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
+  const std::size_t whole = digitsFrom(text, at);
+  std::size_t digits = whole - at;
+  at = whole;
+  if (at < text.size() && text[at] == '.') {
+    const std::size_t fraction = digitsFrom(text, at + 1);
+    digits += fraction - at - 1;
+    at = fraction;
+  }
+  if (digits == 0) return 0;
+  if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+    std::size_t exponent = at + 1;
+    if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+    const std::size_t end = digitsFrom(text, exponent);
+    if (end > exponent) at = end;
+  }
+  return at;
+}
+
+double valueOf(std::string_view number) {
+  if (number.empty()) return 0;
+  if (number.front() == '+') number.remove_prefix(1);
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (result.ec != std::errc::result_out_of_range) return value;
+  const std::size_t exponent = number.find_first_of("eE");
+  const bool tiny = exponent != std::string_view::npos && number[exponent + 1] == '-';
+  if (tiny) return 0;
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  return number.front() == '-' ? -infinity : infinity;
+}
+
+}  // namespace
+
+bool isNumericText(std::string_view text) {
+  text = trimText(text);
+  return !text.empty() && numberLength(text) == text.size();
+}
+
+double leadingNumber(std::string_view text) {
+  const auto isGap = [](char c) { return c == ' ' || c == '\t'; };
+  if (std::none_of(text.begin(), text.end(), isGap)) return valueOf(text.substr(0, numberLength(text)));
+  std::string closed;
+  std::copy_if(text.begin(), text.end(), std::back_inserter(closed), [&](char c) { return !isGap(c); });
+  return valueOf(std::string_view(closed).substr(0, numberLength(closed)));
+}
+
+bool isAllDigits(std::string_view text, const Yield& yield) {
+  bool allDigits = true;
+  for (const char c : text) {
+    allDigits = allDigits && isDigit(c);
+    if (yield) yield();
+  }
+  return allDigits;
+}
+
+std::string numberText(double value) {
+  std::array<char, 400> buffer;
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+  return {buffer.data(), result.ptr};
+}
+
+}  // namespace zamo

@@ -1,0 +1,27 @@
+// A failure of the machine: a number and a text. It is thrown; what is wrong with a notice never is.
+#pragma once
+
+#include <string>
+
+namespace zamo {
+
+enum ErrorNumber : int {
+  kInvalidArgument = 5,
+  kOverflow = 6,
+  kIndexOutOfRange = 9,
+  kTypeMismatch = 13,
+  kFileNotFound = 53,
+  kDeviceError = 57,
+  kDiskFull = 61,
+  kPermissionDenied = 70,
+};
+
+struct RunTimeError {
+  int number = 0;
+  std::string text;
+};
+
+// The error of a failed system call on `path`, from its errno.
+RunTimeError fileError(int systemError, const std::string& path);
+
+}  // namespace zamo

@@ -1,0 +1,3 @@
+#include "shell/batch.h"
+
+int main(int argc, char** argv) { return zamo::runBatch(argc, argv); }

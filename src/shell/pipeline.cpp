@@ -1,0 +1,173 @@
+#include "shell/pipeline.h"
+
+#include <initializer_list>
+
+#include "noticefile/structure_check.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/run_time_error.h"
+#include "platform/text.h"
+#include "validation/basic_validation.h"
+
+namespace zamo {
+namespace {
+
+void showStatus(Shell& shell, std::string_view text) {
+  shell.draw(shell.screen);
+  shell.host.setStatus(text);
+  shell.host.repaint();
+}
+
+void disableQueryMenus(Shell& shell) {
+  shell.screen.queryEnabled = false;
+  shell.screen.txtDbEnabled = false;
+}
+
+void showValidationButtons(Shell& shell, bool visible) {
+  shell.screen.viewFileVisible = visible;
+  shell.screen.reValVisible = visible;
+}
+
+// Each item gets a line end behind it; the error text has one of its own besides.
+void writeReport(const std::string& path, std::initializer_list<std::string_view> items) {
+  std::string content;
+  for (const std::string_view item : items) content.append(item).append(kLineEnd);
+  replaceFile(path, content);
+}
+
+std::string reportStampLine(const Host& host) {
+  const DateTime now = host.now();
+  return "On " + shortDateText(now.date) + " -  " + timeText(now) + " by " + getLogonName(host);
+}
+
+struct FailedStage {
+  Stage stage;
+  std::string_view status;
+};
+
+constexpr FailedStage kFormatErrors = {Stage::structure,
+                                       "File format has errors. Please correct and re-validate to proceed"};
+constexpr FailedStage kBasicErrors = {Stage::basic,
+                                      "Basic validation has errors. Please correct and re-validate to proceed"};
+
+void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, const StageResult& result,
+                 std::initializer_list<std::string_view> reportItems) {
+  verdict.failedAt = failed.stage;
+  verdict.machineFailed = result.machineFailed;
+  disableQueryMenus(shell);
+  showValidationButtons(shell, true);
+  showStatus(shell, failed.status);
+  const std::string report = outcomeReportPath(shell.run.NtcFileName);
+  writeReport(report, reportItems);
+  verdict.report = report;
+  showReportInNotepad(shell.host, report, kReportFallback);
+}
+
+class Hourglass {
+ public:
+  explicit Hourglass(const Host& host) : host_(host) { host_.setHourglass(true); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+  ~Hourglass() { host_.setHourglass(false); }
+
+ private:
+  const Host& host_;
+};
+
+}  // namespace
+
+void runTextCommand(Shell& shell, std::int16_t level) {
+  shell.run.ValLevel = level;
+  shell.run.startTime = timeStamp(shell.host.now());
+  if (!chooseNoticeFile(shell)) return;
+  judgeFile(shell);
+}
+
+void ButtonReVal(Shell& shell) {
+  closeDB(shell.run.DbConn);
+  shell.screen.gridVisible = false;
+  judgeFile(shell);
+}
+
+void ButtonViewFile(const Shell& shell) {
+  if (shell.host.startTextViewer(shell.run.NtcFileName)) return;
+  shell.host.showBox(
+      {"Cannot find Notepad.exe. Unable to show the input file", "Information", BoxIcon::information});
+}
+
+bool chooseNoticeFile(Shell& shell) {
+  shell.screen.gridVisible = false;
+  closeDB(shell.run.DbConn);
+  disableQueryMenus(shell);
+  shell.screen.statusVisible = false;
+  shell.draw(shell.screen);
+  const std::optional<std::string> chosen = shell.host.openFile(
+      {shell.run.WorkDir, "Text Files (*.txt)|*.txt|Updated Files (*.upd)|*.upd"});
+  if (!chosen || chosen->empty()) {
+    shell.host.setHourglass(false);
+    return false;
+  }
+  shell.screen.fileName.clear();
+  shell.run.NtcFileName = *chosen;
+  shell.run.fileTime = timeStamp(shell.host.now());
+  shell.screen.fileName = textFromUtf8(shell.run.NtcFileName);
+  shell.screen.inputVisible = true;
+  shell.screen.statusVisible = true;
+  shell.draw(shell.screen);
+  if (masterHasAddrCodeTable(shell.host)) return true;
+  shell.screen.inputVisible = false;
+  shell.screen.statusVisible = false;
+  shell.draw(shell.screen);
+  return false;
+}
+
+void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
+  shell.screen.gridVisible = false;
+  showStatus(shell, "Checking the File format. Please be patient....");
+  std::string errText;
+  StageResult structure;
+  {
+    const Hourglass hourglass(shell.host);
+    structure = checkFileStructure(shell.host, errText, shell.run.NtcFileName);
+  }
+  if (!structure.passed) return tellFailure(shell, verdict, kFormatErrors, structure, {errText});
+
+  errText.clear();
+  showStatus(shell, "Basic validation is running. Please be patient....");
+  std::int64_t noticesRead = 0;
+  StageResult basic;
+  {
+    const Hourglass hourglass(shell.host);
+    basic = runBasicValidation(shell.host, errText, noticesRead, shell.run.NtcFileName, false);
+  }
+  if (!basic.passed) {
+    const std::string program = std::string("The input file has been validated with ").append(kReportVersion);
+    return tellFailure(shell, verdict, kBasicErrors, basic,
+                       {program, reportStampLine(shell.host), " ", "Basic Validation error(s)", errText});
+  }
+  shell.screen.queryEnabled = true;
+  shell.screen.txtDbEnabled = true;
+  showValidationButtons(shell, false);
+  shell.draw(shell.screen);
+}
+
+Verdict judgeFile(Shell& shell) {
+  Verdict verdict;
+  try {
+    checkFormatAndBasic(shell, verdict);
+  } catch (const RunTimeError& error) {
+    verdict.machineFailed = true;
+    showRunTimeError(shell.host, error.number, "checkFormatAndBasic", error.text);
+  }
+  return verdict;
+}
+
+void showReportInNotepad(const Host& host, const std::string& path, std::string_view messageHead) {
+  if (host.startTextViewer(path)) return;
+  host.showBox({std::string("Cannot find Notepad.exe. ").append(messageHead).append(textFromUtf8(path)), "Information",
+                BoxIcon::information});
+}
+
+std::string outcomeReportPath(std::string_view ntcFileName) { return baseOf(ntcFileName) + "_val_outcome.txt"; }
+
+}  // namespace zamo

@@ -1,0 +1,48 @@
+// The road of one notice file, from its choice to its verdict. The window and the companion both go it.
+#pragma once
+
+#include <string>
+
+#include "shell/run_state.h"
+
+namespace zamo {
+
+inline constexpr std::string_view kReportVersion = " LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006";
+inline constexpr std::string_view kReportFallback = "The validation report cannot be shown, but is available on ";
+
+enum class Stage { none, structure, basic };
+
+// What the checks made of a file.
+struct Verdict {
+  Stage failedAt = Stage::none;
+  bool machineFailed = false;  // an error of the machine, which the user has been shown, stands behind it
+  std::string report;          // path of the outcome report, if one was written
+  bool passed() const { return failedAt == Stage::none && !machineFailed; }
+};
+
+// The menu commands at their level: choice of the file, then its stages.
+void runTextCommand(Shell& shell, std::int16_t level);
+
+// The same file once more, at the same level and without a dialog.
+void ButtonReVal(Shell& shell);
+
+// Shows the input file in the text viewer.
+void ButtonViewFile(const Shell& shell);
+
+// Lets the user choose a notice file and tests the master template. False on Cancel and with an old template.
+bool chooseNoticeFile(Shell& shell);
+
+// Structure check and basic validation of NtcFileName, with their report, statuses and buttons. A report that can't
+// be written throws RunTimeError, and `verdict` holds what was known by then.
+void checkFormatAndBasic(Shell& shell, Verdict& verdict);
+
+// The verdict on NtcFileName at the level of the run, with a box for what the stages throw.
+Verdict judgeFile(Shell& shell);
+
+// Opens a report in the text viewer. Without a viewer a box tells where it is, behind `messageHead`.
+void showReportInNotepad(const Host& host, const std::string& path, std::string_view messageHead);
+
+// The outcome report of a notice file.
+std::string outcomeReportPath(std::string_view ntcFileName);
+
+}  // namespace zamo

@@ -1,0 +1,12 @@
+// The working directory, the one thing that outlives a run.
+#pragma once
+
+#include "shell/run_state.h"
+
+namespace zamo {
+
+// Tells the present working directory, asks whether to change it and stores what was chosen. Cancelling the choice
+// stores what the run has.
+void mnuPrefDir(Shell& shell);
+
+}  // namespace zamo

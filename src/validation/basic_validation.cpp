@@ -1,0 +1,50 @@
+#include "validation/basic_validation.h"
+
+#include "noticefile/strict_reader.h"
+#include "platform/code_page.h"
+#include "platform/run_time_error.h"
+#include "platform/text.h"
+
+namespace zamo {
+
+StageResult runBasicValidation(const Host& host, std::string& report, std::int64_t& noticesRead,
+                               const std::string& filePath, bool withFileName) {
+  try {
+    LineSource lines(filePath);
+    return {validateLines(host, lines, report, noticesRead, withFileName ? textFromUtf8(filePath) : std::string())};
+  } catch (const RunTimeError& error) {
+    showRunTimeError(host, error.number, "Validate Notice", error.text);
+    return {false, true};
+  }
+}
+
+bool validateLines(const Host& host, LineSource& lines, std::string& report, std::int64_t& noticesRead,
+                   std::string_view prefixOfFile) {
+  bool result = false;
+  noticesRead = 0;
+  StrictReading reading{lines, report, {}, host.yield, {}, {}};
+  while (!lines.atEnd()) {
+    readLine(reading);
+    if (!isTagLine(reading.currentLine)) continue;
+    reading.prefix = prefixOfFile;
+    if (equalsIgnoringCase(reading.currentLine, kHeadTag)) {
+      readLine(reading);
+      result = valReadHead(reading);
+    } else if (equalsIgnoringCase(reading.currentLine, kNoticeTag)) {
+      readLine(reading);
+      ++noticesRead;
+      reading.prefix.append("Notice No : ").append(std::to_string(noticesRead));
+      result = valReadNotice(reading) && result;
+      if (prefixOfFile.empty()) {
+        host.setStatus("Notice no : " + std::to_string(noticesRead));
+        host.repaint();
+      }
+    } else if (equalsIgnoringCase(reading.currentLine, kTailTag)) {
+      readLine(reading);
+      result = valReadTail(reading, noticesRead) && result;
+    }
+  }
+  return result;
+}
+
+}  // namespace zamo
