@@ -2,21 +2,31 @@
 
 #include <sqlite3.h>
 
+#include <filesystem>
+
 #include "platform/code_page.h"
-#include "platform/run_time_error.h"
 
 namespace zamo {
 namespace {
+
+// The engine reads "", ":memory:" and "file:..." as something else than files of that name; an absolute path
+// is plain.
+std::string absolutePath(const std::string& path) {
+  std::error_code failed;
+  const std::string absolute = std::filesystem::absolute(path, failed).string();
+  if (failed || absolute.empty()) throw RunTimeError{SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN)};
+  return absolute;
+}
+
+}  // namespace
 
 RunTimeError engineError(sqlite3* database) {
   return {sqlite3_extended_errcode(database), textFromUtf8(sqlite3_errmsg(database))};
 }
 
-}  // namespace
-
 Connection::Connection(const std::string& path) {
   sqlite3* database = nullptr;
-  const int result = sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
+  const int result = sqlite3_open_v2(absolutePath(path).c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
   database_.reset(database);
   if (result != SQLITE_OK) throw engineError(database);
   // The engine doesn't look at the file before the first statement.
@@ -26,7 +36,9 @@ Connection::Connection(const std::string& path) {
   }
 }
 
-void Connection::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+void Connection::Close::operator()(sqlite3* database) const {
+  sqlite3_close_v2(database);
+}
 
 void Connection::openTable(std::string_view name) {
   std::string quoted;

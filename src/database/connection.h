@@ -5,9 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "platform/run_time_error.h"
+
 struct sqlite3;
 
 namespace zamo {
+
+// The engine's last error on a connection.
+RunTimeError engineError(sqlite3* database);
 
 // Every failure is thrown as a RunTimeError with the engine's number and text.
 class Connection {
@@ -17,6 +22,8 @@ class Connection {
 
   // Opens a table for adding rows and closes it again. Throws when there is no such table.
   void openTable(std::string_view name);
+
+  sqlite3* handle() { return database_.get(); }
 
  private:
   struct Close {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/text.h"
+#include "model/key_index.h"
 
 namespace zamo {
 namespace {
@@ -87,26 +87,33 @@ constexpr FieldRow kFields[] = {
 };
 // clang-format on
 
+constexpr std::array<std::string_view, std::size(kFields)> storedKeys() {
+  std::array<std::string_view, std::size(kFields)> keys;
+  for (std::size_t row = 0; row < keys.size(); ++row) {
+    if (kFields[row].storedAs != notRead) keys[row] = kFields[row].key;
+  }
+  return keys;
+}
+
 constexpr bool keysAreUnique() {
   for (const FieldRow& row : kFields) {
-    if (!row.key.empty() && std::count_if(std::begin(kFields), std::end(kFields),
-                                          [&row](const FieldRow& other) { return other.key == row.key; }) != 1) {
-      return false;
-    }
+    const auto count = std::count_if(std::begin(kFields), std::end(kFields),
+                                     [&row](const FieldRow& other) { return other.key == row.key; });
+    if (!row.key.empty() && count != 1) return false;
   }
   return true;
 }
 static_assert(keysAreUnique());
+
+constexpr KeyIndex kIndex(storedKeys());
 
 }  // namespace
 
 std::span<const FieldRow> fieldTable() { return kFields; }
 
 const FieldRow* findField(std::string_view key) {
-  const auto* found = std::find_if(std::begin(kFields), std::end(kFields),
-                                   [key](const FieldRow& row) { return equalsIgnoringCase(row.key, key); });
-  const bool stored = found != std::end(kFields) && !key.empty() && found->storedAs != notRead;
-  return stored ? found : nullptr;
+  const std::size_t row = kIndex.find(key);
+  return row == kNoKey ? nullptr : &kFields[row];
 }
 
 int countContourIds(const AllotRec& allot) {

@@ -37,7 +37,7 @@ enum class StoredAs {
   upperCase,
   threeDigits,       // with zeros in front
   timeWithoutColon,
-  coordinate,        // cut into the four texts of kCoordinateFields
+  coordinate,        // cut into the four texts of its CoordinateField
   joined,            // with ";" behind what is there
   replaced,          // the last one counts
   noticeType,        // upper case; settles the class of station and the buffered contour identifiers
@@ -76,7 +76,7 @@ inline constexpr std::array<CoordinateField, 4> kCoordinateFields = {{
 // All rows, in the order of the record.
 std::span<const FieldRow> fieldTable();
 
-// The row of a file key, compared without regard to case; nothing for a key that no reader stores.
+// The row of a file key in lower case; nothing for a key that the section reader doesn't store.
 const FieldRow* findField(std::string_view key);
 
 }  // namespace zamo

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <string_view>
 
-namespace zamo {
+#include "model/key_index.h"
 
-inline constexpr std::size_t kNoKey = static_cast<std::size_t>(-1);
+namespace zamo {
 
 // clang-format off
 inline constexpr std::array<std::string_view, 57> kNoticeKeys = {

@@ -7,8 +7,6 @@
 #include <type_traits>
 #include <initializer_list>
 #include <span>
-#include <type_traits>
-#include <variant>
 
 #include "noticefile/key_table.h"
 #include "noticefile/strict_tables.h"
@@ -69,8 +67,8 @@ bool hasForm(std::string_view value, NumberForm form, const Yield& yield) {
 }
 
 bool accepts(StrictReading& reading, const NumberRule& rule, std::string_view value) {
-  const bool short_enough = rule.limit == 0 || value.size() <= rule.limit;
-  return (short_enough && hasForm(value, rule.form, reading.yield)) || refuse(reading, rule.message, rule.gap);
+  const bool shortEnough = rule.limit == 0 || value.size() <= rule.limit;
+  return (shortEnough && hasForm(value, rule.form, reading.yield)) || refuse(reading, rule.message, rule.gap);
 }
 
 // Whether a part of a coordinate is digits alone and below `bound`.
@@ -126,53 +124,47 @@ bool accepts(StrictReading& reading, const SystemVariantRule&, std::string_view 
   return good || refuse(reading, kSystemVariantValues);
 }
 
-// The rule of each slot of the key table.
-using Rule = std::variant<std::monostate, const EnumerationRule*, const FreeTextRule*, const LengthRule*,
-                          const NumberRule*, const CoordinateRule*, const DateRule*, const PlanEntryRule*,
-                          const SystemVariantRule*>;
-
 constexpr PlanEntryRule kPlanEntry[] = {{}};
 constexpr SystemVariantRule kSystemVariant[] = {{}};
 
+// A row of any of the tables, together with the test that its table asks for.
+struct Rule {
+  const void* row = nullptr;
+  bool (*accepts)(StrictReading& reading, const void* row, std::string_view value) = nullptr;
+};
+
+// The rule of each slot of the key table; a slot whose values aren't tested has none.
 constexpr std::array<Rule, kNoticeKeys.size()> makeRulesBySlot() {
   std::array<Rule, kNoticeKeys.size()> rules{};
-  const auto place = [&rules](const auto& table) {
-    for (const auto& rule : table) {
-      const auto* slot = std::find(kNoticeKeys.begin(), kNoticeKeys.end(), rule.key);
-      rules[static_cast<std::size_t>(slot - kNoticeKeys.begin())] = &rule;
+  const auto place = [&rules]<typename Row>(std::span<const Row> table) {
+    for (const Row& row : table) {
+      const auto* slot = std::find(kNoticeKeys.begin(), kNoticeKeys.end(), row.key);
+      rules[static_cast<std::size_t>(slot - kNoticeKeys.begin())] = {
+          &row, [](StrictReading& reading, const void* known, std::string_view value) {
+            return accepts(reading, *static_cast<const Row*>(known), value);
+          }};
     }
   };
-  place(kEnumerations);
-  place(kFreeTexts);
-  place(kLengths);
-  place(kNumbers);
-  place(kNoticeCoordinates);
-  place(kDates);
-  place(kPlanEntry);
-  place(kSystemVariant);
+  place(std::span<const EnumerationRule>(kEnumerations));
+  place(std::span<const FreeTextRule>(kFreeTexts));
+  place(std::span<const LengthRule>(kLengths));
+  place(std::span<const NumberRule>(kNumbers));
+  place(std::span<const CoordinateRule>(kNoticeCoordinates));
+  place(std::span<const DateRule>(kDates));
+  place(std::span<const PlanEntryRule>(kPlanEntry));
+  place(std::span<const SystemVariantRule>(kSystemVariant));
   return rules;
 }
 
 constexpr std::array<Rule, kNoticeKeys.size()> kRules = makeRulesBySlot();
 
-constexpr std::size_t rulesPlaced() {
+constexpr std::size_t countRules() {
   return static_cast<std::size_t>(
-      std::count_if(kRules.begin(), kRules.end(), [](const Rule& rule) { return rule.index() != 0; }));
+      std::count_if(kRules.begin(), kRules.end(), [](const Rule& rule) { return rule.row != nullptr; }));
 }
-static_assert(rulesPlaced() == std::size(kEnumerations) + std::size(kFreeTexts) + std::size(kLengths) +
-                                   std::size(kNumbers) + std::size(kNoticeCoordinates) + std::size(kDates) + 2);
-
-bool acceptsByRule(StrictReading& reading, const Rule& rule, std::string_view value) {
-  return std::visit(
-      [&](auto known) {
-        if constexpr (std::is_same_v<decltype(known), std::monostate>) {
-          return true;
-        } else {
-          return accepts(reading, *known, value);
-        }
-      },
-      rule);
-}
+static_assert(countRules() == std::size(kEnumerations) + std::size(kFreeTexts) + std::size(kLengths) +
+                                  std::size(kNumbers) + std::size(kNoticeCoordinates) + std::size(kDates) +
+                                  std::size(kPlanEntry) + std::size(kSystemVariant));
 
 bool isTag(std::string_view line, std::string_view tag) { return isTagLine(line) && equalsIgnoringCase(line, tag); }
 
@@ -269,7 +261,8 @@ bool valReadNotice(StrictReading& reading) {
     const std::size_t slot = keySlot(key);
     if (slot == kNoKey) return refuse(reading, kUndefinedKey, Gap::wide);
     if (value.empty()) return true;
-    const bool accepted = acceptsByRule(reading, kRules[slot], value);
+    const Rule& rule = kRules[slot];
+    const bool accepted = rule.row == nullptr || rule.accepts(reading, rule.row, value);
     if (accepted && key == "t_notice_type") sawNoticeType = true;
     return accepted;
   };

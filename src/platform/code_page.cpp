@@ -57,6 +57,12 @@ char32_t takeCharacter(std::string_view& utf8) {
     }
     value = (value << 6) | (byte(i) & 0x3FU);
   }
+  // A longer form than the character needs isn't well formed either.
+  constexpr char32_t lowestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
+  if (value < lowestOfLength[length]) {
+    length = 1;
+    value = kIllFormed;
+  }
   utf8.remove_prefix(length);
   return value;
 }

@@ -46,8 +46,7 @@ std::string stripTimeColon(std::string_view time) {
 }
 
 float dmsToDegrees(int degrees, int minutes, int seconds) {
-  const auto wholeMinutes = static_cast<float>(minutes);
-  return (static_cast<float>(seconds) / 60.0F + wholeMinutes) / 60.0F + static_cast<float>(degrees);
+  return static_cast<float>((seconds / 60.0 + minutes) / 60.0 + degrees);
 }
 
 double dmsToRadians(std::string_view degrees, std::string_view minutes, std::string_view seconds,

@@ -11,6 +11,10 @@
 namespace zamo {
 namespace {
 
+constexpr std::size_t kLongestExponent = 20;
+
+double valueOf(std::string_view number);
+
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::size_t digitsFrom(std::string_view text, std::size_t at) {
@@ -39,15 +43,25 @@ std::size_t numberLength(std::string_view text) {
   return at;
 }
 
+// Whether a number that is no double lies beyond 1, and not between it and 0: by the place of its first digit that
+// isn't 0.
+bool isBeyondOne(std::string_view number) {
+  const std::size_t exponentAt = std::min(number.find_first_of("eE"), number.size());
+  const std::string_view digits = number.substr(0, exponentAt);
+  const std::size_t point = std::min(digits.find('.'), digits.size());
+  const std::size_t first = std::min(digits.find_first_of("123456789"), digits.size());
+  const double place = static_cast<double>(point) - static_cast<double>(first);
+  std::string_view exponentText = number.substr(exponentAt);
+  if (!exponentText.empty()) exponentText.remove_prefix(1);
+  return place + valueOf(exponentText.substr(0, kLongestExponent)) > 0;
+}
+
 double valueOf(std::string_view number) {
-  if (number.empty()) return 0;
-  if (number.front() == '+') number.remove_prefix(1);
+  if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec != std::errc::result_out_of_range) return value;
-  const std::size_t exponent = number.find_first_of("eE");
-  const bool tiny = exponent != std::string_view::npos && number[exponent + 1] == '-';
-  if (tiny) return 0;
+  if (!isBeyondOne(number)) return 0;
   constexpr double infinity = std::numeric_limits<double>::infinity();
   return number.front() == '-' ? -infinity : infinity;
 }

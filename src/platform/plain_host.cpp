@@ -11,16 +11,23 @@
 namespace zamo {
 namespace {
 
+constexpr std::size_t kMessageBuffer = 64 * std::size_t{1024};
+
 void printLine(std::string_view text) {
   const std::string line = utf8FromText(text) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-void printBox(const Box& box) { printLine(box.title.empty() ? box.text : box.title + ": " + box.text); }
+void printBox(const Box& box) {
+  printLine(box.title.empty() ? box.text : box.title + ": " + box.text);
+  std::fflush(stderr);
+}
 
 }  // namespace
 
 Host makePlainHost(bool answer) {
+  // A status a notice is too many system calls for a file or a pipe, where nobody watches.
+  if (::isatty(STDERR_FILENO) == 0) std::setvbuf(stderr, nullptr, _IOFBF, kMessageBuffer);
   Host host;
   host.showBox = printBox;
   host.askYesNo = [answer](const Box& box) {

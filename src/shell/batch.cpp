@@ -19,6 +19,8 @@ std::string_view stageName(Stage stage) {
       return "structure";
     case Stage::basic:
       return "basic";
+    case Stage::complete:
+      return "complete";
     case Stage::none:
       break;
   }
@@ -28,6 +30,7 @@ std::string_view stageName(Stage stage) {
 void printVerdict(const std::string& file, const Verdict& verdict) {
   std::string line = file + "\t" + std::string(stageName(verdict.failedAt));
   if (!verdict.report.empty()) line += "\t" + verdict.report;
+  std::fflush(stderr);
   std::puts(line.c_str());
   std::fflush(stdout);
 }
@@ -53,9 +56,11 @@ int runBatch(int argc, const char* const* argv) {
   app.require_subcommand(1);
 
   std::vector<std::string> files;
-  int level = kBasic;
-  CLI::App* checking = app.add_subcommand("check", "Structure check and basic validation");
-  checking->add_option("--level", level, "1: basic validation")->check(CLI::Range(kBasic, kBasic));
+  int level = kCompleteWithoutGeo;
+  CLI::App* checking = app.add_subcommand("check", "Structure check, basic validation and, by level, complete validation");
+  checking->add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks")
+      ->check(CLI::Range(kBasic, kCompleteWithoutGeo))
+      ->capture_default_str();
   checking->add_option("FILE", files, "Notice files")->required();
   try {
     app.parse(argc, argv);

@@ -2,12 +2,14 @@
 
 #include <initializer_list>
 
+#include "database/agency_lookups.h"
 #include "noticefile/structure_check.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 #include "validation/basic_validation.h"
+#include "validation/complete_validation.h"
 
 namespace zamo {
 namespace {
@@ -45,16 +47,29 @@ struct FailedStage {
   std::string_view status;
 };
 
-constexpr FailedStage kFormatErrors = {Stage::structure,
-                                       "File format has errors. Please correct and re-validate to proceed"};
-constexpr FailedStage kBasicErrors = {Stage::basic,
-                                      "Basic validation has errors. Please correct and re-validate to proceed"};
+// clang-format off
+constexpr FailedStage kFormatErrors = {Stage::structure, "File format has errors. Please correct and re-validate to proceed"};
+constexpr FailedStage kBasicErrors = {Stage::basic, "Basic validation has errors. Please correct and re-validate to proceed"};
+
+// What differs between complete validation without and with geographic checks.
+struct CompleteLevel {
+  bool withGeo;
+  std::string_view status;
+  FailedStage errors;
+  std::string_view reportLine;
+  bool blankLine;  // between the report line and the text
+};
+
+constexpr CompleteLevel kWithoutGeo = {
+    false, "Complete validation without geo coordinates is running. Please be patient....",
+    {Stage::complete, "Complete validation without geo coordinates has error(s)."},
+    "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP", false};
+// clang-format on
 
 void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, const StageResult& result,
                  std::initializer_list<std::string_view> reportItems) {
   verdict.failedAt = failed.stage;
   verdict.machineFailed = result.machineFailed;
-  disableQueryMenus(shell);
   showValidationButtons(shell, true);
   showStatus(shell, failed.status);
   const std::string report = outcomeReportPath(shell.run.NtcFileName);
@@ -73,6 +88,32 @@ class Hourglass {
  private:
   const Host& host_;
 };
+
+AgencyLookups lookupsOf(MasterAgencies& agencies) {
+  return {[&agencies](std::string_view adm, std::string_view code) { return agencies.isOpAgcyOfAdm(adm, code); },
+          [&agencies](std::string_view adm, std::string_view code) { return agencies.isAddrCodeOfAdm(adm, code); }};
+}
+
+void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& level) {
+  showStatus(shell, level.status);
+  std::string errText;
+  StageResult complete;
+  {
+    const Hourglass hourglass(shell.host);
+    NtcRec work;
+    MasterAgencies agencies;
+    complete = runCompleteValidation(shell.host, work, errText, level.withGeo, shell.run.NtcFileName,
+                                     lookupsOf(agencies));
+  }
+  if (complete.passed) {
+    showValidationButtons(shell, false);
+    shell.draw(shell.screen);
+  } else if (level.blankLine) {
+    tellFailure(shell, verdict, level.errors, complete, {"Basic Validation OK", level.reportLine, " ", errText});
+  } else {
+    tellFailure(shell, verdict, level.errors, complete, {"Basic Validation OK", level.reportLine, errText});
+  }
+}
 
 }  // namespace
 
@@ -130,7 +171,10 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
     const Hourglass hourglass(shell.host);
     structure = checkFileStructure(shell.host, errText, shell.run.NtcFileName);
   }
-  if (!structure.passed) return tellFailure(shell, verdict, kFormatErrors, structure, {errText});
+  if (!structure.passed) {
+    disableQueryMenus(shell);
+    return tellFailure(shell, verdict, kFormatErrors, structure, {errText});
+  }
 
   errText.clear();
   showStatus(shell, "Basic validation is running. Please be patient....");
@@ -141,6 +185,7 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
     basic = runBasicValidation(shell.host, errText, noticesRead, shell.run.NtcFileName, false);
   }
   if (!basic.passed) {
+    disableQueryMenus(shell);
     const std::string program = std::string("The input file has been validated with ").append(kReportVersion);
     return tellFailure(shell, verdict, kBasicErrors, basic,
                        {program, reportStampLine(shell.host), " ", "Basic Validation error(s)", errText});
@@ -151,13 +196,20 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   shell.draw(shell.screen);
 }
 
+void completeValidationNoGeo(Shell& shell, Verdict& verdict) { validateCompletely(shell, verdict, kWithoutGeo); }
+
 Verdict judgeFile(Shell& shell) {
   Verdict verdict;
+  std::string_view operation = "checkFormatAndBasic";
   try {
     checkFormatAndBasic(shell, verdict);
+    if (verdict.passed() && shell.run.ValLevel == kCompleteWithoutGeo) {
+      operation = "completeValidationNoGeo";
+      completeValidationNoGeo(shell, verdict);
+    }
   } catch (const RunTimeError& error) {
     verdict.machineFailed = true;
-    showRunTimeError(shell.host, error.number, "checkFormatAndBasic", error.text);
+    showRunTimeError(shell.host, error.number, operation, error.text);
   }
   return verdict;
 }

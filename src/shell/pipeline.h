@@ -10,7 +10,7 @@ namespace zamo {
 inline constexpr std::string_view kReportVersion = " LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006";
 inline constexpr std::string_view kReportFallback = "The validation report cannot be shown, but is available on ";
 
-enum class Stage { none, structure, basic };
+enum class Stage { none, structure, basic, complete };
 
 // What the checks made of a file.
 struct Verdict {
@@ -35,6 +35,10 @@ bool chooseNoticeFile(Shell& shell);
 // Structure check and basic validation of NtcFileName, with their report, statuses and buttons. A report that can't
 // be written throws RunTimeError, and `verdict` holds what was known by then.
 void checkFormatAndBasic(Shell& shell, Verdict& verdict);
+
+// Complete validation of NtcFileName, with its report, statuses and buttons. What it finds stops no run. A report
+// that can't be written throws RunTimeError, and `verdict` holds what was known by then.
+void completeValidationNoGeo(Shell& shell, Verdict& verdict);
 
 // The verdict on NtcFileName at the level of the run, with a box for what the stages throw.
 Verdict judgeFile(Shell& shell);

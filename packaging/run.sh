@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# The main job: the window where there is a display, otherwise the companion over a copy of the examples.
+set -euo pipefail
+bin=$1
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  exec "$bin/zamo-kv19"
+fi
+
+work=build/run
+mkdir -p "$work"
+cp examples/*.txt examples/*.upd "$work"
+echo "No display: checking copies of the example files in $work."
+status=0
+"$bin/zamo-kv19-batch" check --level 1 "$work"/*.txt "$work"/*.upd 2>"$work/messages.log" || status=$?
+echo "Reports stand beside the files, as the third column tells; messages are in $work/messages.log."
+[ "$status" -le 1 ]

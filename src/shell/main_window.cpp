@@ -1,0 +1,257 @@
+#include "shell/main_window.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <exception>
+#include <new>
+
+#include "platform/run_time_error.h"
+#include "shell/qt_text.h"
+
+namespace zamo {
+namespace {
+
+constexpr QSize kUsualSize(1000, 640);
+constexpr QSize kSmallestSize(600, 320);
+constexpr int kGap = 8;
+
+constexpr std::string_view kHint = "To check a notice file, choose File > OpenTxt.";
+
+// The words that every status text with bad news has, and no other.
+constexpr std::string_view kBadNews = "has error";
+
+constexpr int kOutOfMemory = 7;
+constexpr int kInternalError = 51;
+
+QString nameOf(std::string_view name) {
+  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QString captionOf(std::string_view caption, char mnemonic) {
+  QString text = fromText(caption);
+  return text.insert(text.indexOf(QLatin1Char(mnemonic)), QLatin1Char('&'));
+}
+
+QLineEdit* makeReadOnlyLine(std::string_view name, const QString& spokenName) {
+  auto* line = new QLineEdit;
+  line->setObjectName(nameOf(name));
+  line->setAccessibleName(spokenName);
+  line->setReadOnly(true);
+  return line;
+}
+
+QTableView* makeGrid() {
+  auto* grid = new QTableView;
+  grid->setObjectName("NtcDataGrid");
+  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+  grid->setSelectionMode(QAbstractItemView::SingleSelection);
+  grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  grid->setAlternatingRowColors(true);
+  grid->setWordWrap(false);
+  grid->setTabKeyNavigation(false);
+  grid->verticalHeader()->hide();
+  grid->horizontalHeader()->setHighlightSections(false);
+  return grid;
+}
+
+// Stands where the grid is hidden.
+QLabel* makeEmptyGrid() {
+  auto* panel = new QLabel;
+  panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  panel->setAutoFillBackground(true);
+  panel->setBackgroundRole(QPalette::Base);
+  panel->setForegroundRole(QPalette::PlaceholderText);
+  panel->setAlignment(Qt::AlignCenter);
+  panel->setWordWrap(true);
+  return panel;
+}
+
+void showFailure(const Host& host, int number, std::string_view name, std::string_view description) {
+  host.setHourglass(false);
+  showRunTimeError(host, number, name, description);
+}
+
+}  // namespace
+
+void mnuFileExit(Shell& /*shell*/, QWidget& window) {
+  window.close();
+}
+
+MainWindow::MainWindow(Shell& shell) : shell_(shell) {
+  setObjectName("ZamoKV19Startup");
+  makeMenus();
+  makeControls();
+  setMinimumSize(kSmallestSize);
+  resize(kUsualSize.boundedTo(screen()->availableSize()));
+  shell_.draw = [this](const MainScreen& wanted) { draw(wanted); };
+}
+
+MainWindow::~MainWindow() {
+  shell_.draw = [](const MainScreen&) {};
+}
+
+void MainWindow::makeMenus() {
+  for (const MenuRow& row : kMenus) {
+    const QString name = nameOf(row.name);
+    const QString caption = captionOf(row.caption, row.mnemonic);
+    auto* const parent = findChild<QMenu*>(nameOf(row.parent));
+    if (holdsEntries(row)) {
+      QMenu* const menu = row.parent.empty() ? menuBar()->addMenu(caption) : parent->addMenu(caption);
+      menu->setObjectName(name);
+      menu->menuAction()->setObjectName(name);
+      continue;
+    }
+    QAction* const entry = parent->addAction(caption);
+    entry->setObjectName(name);
+    entry->setShortcut(QKeySequence(nameOf(row.shortcut)));
+    entry->setEnabled(row.command != nullptr);
+    if (row.command != nullptr)
+      connect(entry, &QAction::triggered, this, [this, &row] { runCommand(row.name, row.command); });
+  }
+  auto* const english = findChild<QAction*>("mnuPrefLangE");
+  english->setCheckable(true);
+  // Alone in a group, the check mark stays when the entry is chosen.
+  (new QActionGroup(this))->addAction(english);
+}
+
+QPushButton* MainWindow::makeButton(std::string_view name, std::string_view caption, char mnemonic,
+                                    Command command) {
+  auto* button = new QPushButton(captionOf(caption, mnemonic));
+  button->setObjectName(nameOf(name));
+  button->setAutoDefault(true);  // Return presses it, as the space bar does
+  connect(button, &QPushButton::clicked, this, [this, name, command] { runCommand(name, command); });
+  return button;
+}
+
+void MainWindow::makeControls() {
+  LblInputTxt_ = new QLabel("Input");
+  LblInputTxt_->setObjectName("LblInputTxt");
+  TxtFileName_ = makeReadOnlyLine("TxtFileName", "Input");
+  TxtProcessingStatus_ = makeReadOnlyLine("TxtProcessingStatus", "Status");
+  errorMark_ = TxtProcessingStatus_->addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning),
+                                               QLineEdit::LeadingPosition);
+  errorMark_->setVisible(false);
+  ButtonViewFile_ =
+      makeButton("ButtonViewFile", "View File", 'V', [](Shell& shell, QWidget&) { ButtonViewFile(shell); });
+  ButtonReVal_ =
+      makeButton("ButtonReVal", "ReValidate", 'R', [](Shell& shell, QWidget&) { ButtonReVal(shell); });
+
+  strip_ = new QFrame;
+  auto* const strip = new QGridLayout(strip_);
+  strip->setContentsMargins(0, 0, 0, 0);
+  strip->setSpacing(kGap);
+  strip->addWidget(LblInputTxt_, 0, 0);
+  strip->addWidget(TxtFileName_, 0, 1);
+  strip->addWidget(ButtonViewFile_, 0, 2);
+  strip->addWidget(ButtonReVal_, 0, 3);
+  // All of the width: the longest status just fits a small display that is scaled twice.
+  strip->addWidget(TxtProcessingStatus_, 1, 0, 1, 4);
+  strip->setColumnStretch(1, 1);
+
+  NtcDataGrid_ = makeGrid();
+  emptyGrid_ = makeEmptyGrid();
+
+  auto* const central = new QWidget;
+  auto* const rows = new QVBoxLayout(central);
+  rows->setContentsMargins(kGap, kGap, kGap, kGap);
+  rows->setSpacing(kGap);
+  rows->addWidget(strip_);
+  rows->addWidget(NtcDataGrid_, 1);
+  rows->addWidget(emptyGrid_, 1);
+  setCentralWidget(central);
+
+  setTabOrder(TxtFileName_, ButtonViewFile_);
+  setTabOrder(ButtonViewFile_, ButtonReVal_);
+  setTabOrder(ButtonReVal_, TxtProcessingStatus_);
+  setTabOrder(TxtProcessingStatus_, NtcDataGrid_);
+}
+
+void MainWindow::draw(const MainScreen& screen) {
+  if (drawn_ == screen) return;
+  drawn_ = screen;
+  setWindowTitle(fromText(screen.caption));
+  findChild<QMenu*>("mnuFileOpenTxt")->menuAction()->setEnabled(screen.openTxtEnabled);
+  findChild<QMenu*>("mnuQuery")->menuAction()->setEnabled(screen.queryEnabled);
+  findChild<QMenu*>("mnuTxtDB")->menuAction()->setEnabled(screen.txtDbEnabled);
+  findChild<QMenu*>("mnuPrefLang")->menuAction()->setVisible(screen.prefLangVisible);
+  findChild<QAction*>("mnuPrefLangE")->setChecked(screen.englishChecked);
+  const QString fileName = fromText(screen.fileName);
+  TxtFileName_->setText(fileName);
+  TxtFileName_->setToolTip(fileName);
+  LblInputTxt_->setVisible(screen.inputVisible);
+  TxtFileName_->setVisible(screen.inputVisible);
+  TxtProcessingStatus_->setVisible(screen.statusVisible);
+  ButtonViewFile_->setVisible(screen.viewFileVisible);
+  ButtonReVal_->setVisible(screen.reValVisible);
+  strip_->setVisible(screen.inputVisible || screen.statusVisible || screen.viewFileVisible ||
+                     screen.reValVisible);
+  NtcDataGrid_->setVisible(screen.gridVisible);
+  emptyGrid_->setVisible(!screen.gridVisible);
+  emptyGrid_->setText(screen.openTxtEnabled && !screen.inputVisible ? fromText(kHint) : QString());
+}
+
+void MainWindow::setStatus(std::string_view text) {
+  status_ = text;
+  if (!running_) showStatus();
+}
+
+void MainWindow::showStatus() {
+  const QString text = fromText(status_);
+  if (text == TxtProcessingStatus_->text()) return;
+  TxtProcessingStatus_->setText(text);
+  TxtProcessingStatus_->setCursorPosition(0);
+  const bool bad = status_.find(kBadNews) != std::string::npos;
+  if (bad == errorMark_->isVisible()) return;
+  errorMark_->setVisible(bad);
+  QFont font = TxtProcessingStatus_->font();
+  font.setBold(bad);
+  TxtProcessingStatus_->setFont(font);
+}
+
+void MainWindow::refresh() {
+  showStatus();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  // Paints at once what is left to paint: the command may not come by again for long.
+  QEvent paintNow(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(this, &paintNow);
+}
+
+void MainWindow::runCommand(std::string_view name, Command command) {
+  if (running_) return;
+  running_ = true;
+  try {
+    command(shell_, *this);
+  } catch (const RunTimeError& error) {
+    showFailure(shell_.host, error.number, name, error.text);
+  } catch (const std::bad_alloc&) {
+    showFailure(shell_.host, kOutOfMemory, name, "Out of memory");
+  } catch (const std::exception& error) {
+    showFailure(shell_.host, kInternalError, name, error.what());
+  }
+  running_ = false;
+  draw(shell_.screen);
+  showStatus();
+  if (closeWanted_) close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  closeWanted_ = running_;
+  event->setAccepted(!running_);
+  if (!running_) closeDB(shell_.run.DbConn);
+}
+
+}  // namespace zamo

@@ -1,0 +1,68 @@
+// The main window: the menus, what file is being worked on, how far it is, and the grid of notices. It shows
+// the states that the commands leave in Shell::screen and starts the commands.
+#pragma once
+
+#include <QMainWindow>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "shell/menu_table.h"
+#include "shell/run_state.h"
+
+class QAction;
+class QFrame;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTableView;
+
+namespace zamo {
+
+class MainWindow final : public QMainWindow {
+ public:
+  // Becomes the `draw` of `shell`, which must outlive the window.
+  explicit MainWindow(Shell& shell);
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+  ~MainWindow() override;
+
+  // The text of the status line. While a command runs it is shown with the next refresh.
+  void setStatus(std::string_view text);
+
+  // Brings to the display what has changed, and handles what has queued up but for the user's input.
+  void refresh();
+
+  // Runs one command at a time: within a running one nothing happens. What the command throws ends up in a
+  // box that is titled `name`.
+  void runCommand(std::string_view name, Command command);
+
+ protected:
+  // Closes the database too. A window that is closed within a command stays until the command has ended.
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void makeMenus();
+  void makeControls();
+  QPushButton* makeButton(std::string_view name, std::string_view caption, char mnemonic, Command command);
+  void draw(const MainScreen& screen);
+  void showStatus();
+
+  Shell& shell_;
+  std::optional<MainScreen> drawn_;
+  std::string status_;
+  bool running_ = false;
+  bool closeWanted_ = false;
+
+  QFrame* strip_ = nullptr;
+  QLabel* LblInputTxt_ = nullptr;
+  QLineEdit* TxtFileName_ = nullptr;
+  QLineEdit* TxtProcessingStatus_ = nullptr;
+  QAction* errorMark_ = nullptr;
+  QPushButton* ButtonViewFile_ = nullptr;
+  QPushButton* ButtonReVal_ = nullptr;
+  QLabel* emptyGrid_ = nullptr;
+  QTableView* NtcDataGrid_ = nullptr;
+};
+
+}  // namespace zamo

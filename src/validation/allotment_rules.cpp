@@ -1,0 +1,200 @@
+#include "validation/allotment_rules.h"
+
+#include <algorithm>
+
+#include "platform/numbers.h"
+#include "platform/run_time_error.h"
+#include "platform/text.h"
+#include "validation/rule_report.h"
+
+namespace zamo {
+namespace {
+
+// The number of test points as a notice tells it, 0 for none.
+double notifiedPoints(const NtcRec& ntc) { return leadingNumber(ntc.digital.contour.t_nb_test_pts); }
+
+// The points present among those that the number of test points counts.
+int countNotifiedPointsPresent(const NtcRec& ntc) {
+  const auto& points = ntc.digital.contour.points;
+  int present = 0;
+  for (std::size_t i = 0; i < points.size() && static_cast<double>(i) < notifiedPoints(ntc); ++i) {
+    if (points[i].present) ++present;
+  }
+  return present;
+}
+
+// clang-format off
+constexpr MandatoryRow kMandatory[] = {
+    {isGiven<&NtcRec::t_adm_ref_id>,                " t_adm_ref_id is a mandatory value"},
+    {isGivenInAllot<&AllotRec::t_allot_name>,       " t_allot_name is mandatory"},
+    {isGiven<&NtcRec::t_polar>,                     " t_polar is a mandatory value (9D)"},
+    {isGiven<&NtcRec::t_is_pub_req>,                " t_is_pub_req is a mandatory value if notified under Art 4"},
+    {isGiven<&NtcRec::t_plan_entry>,                " t_plan_entry is a mandatory value"},
+};
+
+constexpr MandatoryRow kMandatoryPlanning[] = {
+    {isGivenInDigital<&DigitalRec::t_ref_plan_cfg>, " t_ref_plan_cfg is mandatory"},
+};
+
+constexpr MandatoryRow kMandatoryForTelevision[] = {
+    {isGivenInAllot<&AllotRec::t_typ_ref_netwk>,    " t_typ_ref_netwk is mandatory"},
+};
+
+constexpr AbsentRow kAbsent[] = {
+    {once<isGiven<&NtcRec::t_site_name>>,           " : t_site_name should not be notified for a "},
+    {once<isGiven<&NtcRec::t_site_alt>>,            " : t_site_alt should not be notified for a "},
+    {once<hasPosition>,                             " : t_long t_lat should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_h_dbw>>,           " : t_erp_h_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_v_dbw>>,           " : t_erp_v_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>,   " : t_erp_beam_tilt_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,     " : t_beam_tilt_angle should not be notified for a "},
+    {once<isGiven<&NtcRec::t_eff_hgtmax>>,          " : t_eff_hgtmax should not be notified for a "},
+    {once<isGiven<&NtcRec::t_hgt_agl>>,             " : t_hgt_agl should not be notified for a "},
+    {once<hasAntDiagrH>,                            " : <ANT_DIAGR_H> should not be notified for a "},
+    {once<hasAntDiagrV>,                            " : <ANT_DIAGR_V> should not be notified for a "},
+    {once<hasAntHgt>,                               " : <ANT_HGT> should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_associated_adm_allot_id>>, " : t_associated_adm_allot_id should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_associated_allot_sfn_id>>, " : t_associated_allot_sfn_id should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentTestPoints[] = {
+    {once<isGivenInContour<&ContourRec::t_nb_test_pts>>, " : t_nb_test_pts should not be notified for a "},
+    {countNotifiedPointsPresent,                    " : t_long and t_lat should not be notified for a "},
+};
+
+constexpr AbsentRow kFurtherAbsent[] = {
+    {once<isGiven<&NtcRec::t_assgn_code>>,          " : t_assgn_code should not be notified for a "},
+    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
+    {once<isGiven<&NtcRec::t_sys_var>>,             " : t_sys_var should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>, " : t_rx_mode should not be notified for a "},
+    {once<isGiven<&NtcRec::t_op_agcy>>,             " : t_op_agcy should not be notified for a "},
+    {once<isGiven<&NtcRec::t_d_inuse>>,             " : t_d_inuse should not be notified for a "},
+    {once<isGiven<&NtcRec::t_addr_code>>,           " : t_addr_code should not be notified for a "},
+    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_fr>>, " : t_op_hh_fr should not be notified for a "},
+    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_to>>, " : t_op_hh_to should not be notified for a "},
+    {once<isGiven<&NtcRec::t_remark_conds_met>>,    " : t_remarks_conds_met should not be notified for a "},
+    {once<isGiven<&NtcRec::t_is_resub>>,            " : t_is_resub should not be notified for a "},
+    {once<isGiven<&NtcRec::t_signed_commitment>>,   " : t_signed_commitment should not be notified for a "},
+};
+
+// The words of the first row lack what the rules of the key have.
+constexpr MandatoryRow kMandatoryForContour[] = {
+    {isGivenInContour<&ContourRec::t_contour_id>,   "t_countour_id is mandatory"},
+    {isGivenInContour<&ContourRec::t_nb_test_pts>,  "t_nb_test_pts is mandatory"},
+};
+
+constexpr AbsentRow kAbsentForContour[] = {
+    {once<isGiven<&NtcRec::t_site_name>>,           " : t_site_name should not be notified for a "},
+    {once<isGiven<&NtcRec::t_site_alt>>,            " : t_site_alt should not be notified for a "},
+    {once<hasPosition>,                             " : t_long t_lat should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_h_dbw>>,           " : t_erp_h_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_v_dbw>>,           " : t_erp_v_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_eff_hgtmax>>,          " : t_eff_hgtmax should not be notified for a "},
+    {once<isGiven<&NtcRec::t_hgt_agl>>,             " : t_hgt_agl should not be notified for a "},
+    {once<hasCoord>,                                " : <COORD> or <COORDINATION> should not be notified for a "},
+    {once<hasAntDiagrH>,                            " : <ANT_DIAGR_H> should not be notified for a "},
+    {once<hasAntDiagrV>,                            " : <ANT_DIAGR_V> should not be notified for a "},
+    {once<hasAntHgt>,                               " : <ANT_HGT> should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_associated_adm_allot_id>>, " : t_associated_adm_allot_id should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_allot_name>>, " : t_allot_name should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_geo_area>>,   " : t_geo_area should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_nb_sub_areas>>, " : t_nb_sub_areas should not be notified for a "},
+    {countGivenContourIds,                          " : t_contour_id should not be notified for a "},
+    {once<isGiven<&NtcRec::t_sys_var>>,             " : t_sys_var should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>, " : t_rx_mode should not be notified for a "},
+    {once<isGiven<&NtcRec::t_op_agcy>>,             " : t_op_agcy should not be notified for a "},
+    {once<isGiven<&NtcRec::t_d_inuse>>,             " : t_d_inuse should not be notified for a "},
+    {once<isGiven<&NtcRec::t_addr_code>>,           " : t_addr_code should not be notified for a "},
+    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_fr>>, " : t_op_hh_fr should not be notified for a "},
+    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_to>>, " : t_op_hh_to should not be notified for a "},
+    {once<isGiven<&NtcRec::t_remark_conds_met>>,    " : t_remarks_conds_met should not be notified for a "},
+    {once<isGiven<&NtcRec::t_is_resub>>,            " : t_is_resub should not be notified for a "},
+    {once<isGiven<&NtcRec::t_signed_commitment>>,   " : t_signed_commitment should not be notified for a "},
+    {once<isGiven<&NtcRec::t_freq_assgn>>,          " : t_freq_assgn should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>,   " : t_erp_beam_tilt_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,     " : t_beam_tilt_angle should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_typ_ref_netwk>>, " : t_typ_ref_netwk should not be notified for a "},
+};
+
+struct PlanEntryRow {
+  std::string_view planEntry;
+  bool sfnIdGiven;
+  std::string_view message;
+};
+
+constexpr PlanEntryRow kPlanEntries[] = {
+    {"3", true,  "For t_plan_entry = 3, t_sfn_id MUST be provided"},
+    {"4", true,  "For t_plan_entry = 4, t_sfn_id MUST be provided"},
+    {"5", false, "For t_plan_entry = 5, t_sfn_id MUST be NOT be provided"},
+};
+// clang-format on
+
+void checkArea(RuleReport& report, const NtcRec& ntc) {
+  const bool area = !ntc.digital.allot.t_geo_area.empty();
+  const bool subAreas = !ntc.digital.allot.t_nb_sub_areas.empty();
+  if (area && subAreas) report.fatal(" If t_geo_area is provided then t_nb_sub_areas should not be given");
+  if (!area && !subAreas) {
+    report.fatal(" Either t_geo_area or t_nb_sub_areas and t_contour_id(s) should be given");
+  }
+}
+
+}  // namespace
+
+bool checkAllotValues(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  if (!ntc.t_fragment.empty() && !isFragment(ntc, "KV19D")) {
+    report.fatal(" t_fragment : Acceptable value for allotments are {KV19D}");
+  }
+  const std::string& subAreas = ntc.digital.allot.t_nb_sub_areas;
+  if (!subAreas.empty()) {
+    if (!isWithin(subAreas, 1, 9)) {
+      report.fatal(" t_nb_sub_area : Value should be between [1, 9]");
+    } else if (leadingNumber(subAreas) != countContourIds(ntc.digital.allot)) {
+      report.fatal(" t_nb_sub_area and the number of t_contour_id notified, do not match");
+    }
+  }
+  return report.good;
+}
+
+bool checkAllotMandatory(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  demand(report, ntc, kMandatory);
+  std::string msg;
+  if (checkPlanEntryAllot(ntc.t_plan_entry, ntc.digital.t_sfn_id, msg)) report.fatal(msg);
+  checkArea(report, ntc);
+  demand(report, ntc, kMandatoryPlanning);
+  if (isType(ntc, "GT2")) demand(report, ntc, kMandatoryForTelevision);
+  if (isAction(ntc, "ADD") && !ntc.t_trg_adm_ref_id.empty()) {
+    report.fatal(" : t_trg_adm_ref_id should not be notified for a " + ntc.t_action +
+                 "; t_trg_adm_ref_id is used as the identifier of the target");
+  }
+  forbid(report, ntc, kAbsent, ntc.t_notice_type);
+  if (!ntc.digital.contour.t_nb_test_pts.empty()) forbid(report, ntc, kAbsentTestPoints, ntc.t_notice_type);
+  forbid(report, ntc, kFurtherAbsent, ntc.t_notice_type);
+  return report.good;
+}
+
+bool checkContourMandatory(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  demand(report, ntc, kMandatoryForContour);
+  const auto& points = ntc.digital.contour.points;
+  for (std::size_t i = 0; static_cast<double>(i) < notifiedPoints(ntc); ++i) {
+    if (i >= points.size()) throw RunTimeError{kIndexOutOfRange, "Subscript out of range"};
+    if (!points[i].present) report.fatal("All the coordinates of the test points are mandatory");
+  }
+  forbid(report, ntc, kAbsentForContour, ntc.t_notice_type);
+  if (!ntc.t_is_pub_req.empty()) report.fatal(" : t_is_pub_req should not be notified under Art 5");
+  return report.good;
+}
+
+bool checkPlanEntryAllot(std::string_view planEntry, std::string_view sfnId, std::string& msg) {
+  msg.clear();
+  for (const PlanEntryRow& row : kPlanEntries) {
+    if (equalsIgnoringCase(row.planEntry, planEntry) && row.sfnIdGiven == sfnId.empty()) {
+      msg.append(row.message).append(kLineEnd);
+    }
+  }
+  return !msg.empty();
+}
+
+}  // namespace zamo

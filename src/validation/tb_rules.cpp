@@ -1,0 +1,170 @@
+#include "validation/tb_rules.h"
+
+#include "platform/text.h"
+#include "validation/rule_report.h"
+
+namespace zamo {
+namespace {
+
+// clang-format off
+constexpr MandatoryRow kTarget[] = {
+    {isGiven<&NtcRec::t_trg_adm_ref_id>,  "t_trg_adm_ref_id is a mandatory value"},
+};
+constexpr MandatoryRow kPlan[] = {
+    {isGiven<&NtcRec::t_plan>,            " t_plan is a mandatory value"},
+};
+constexpr MandatoryRow kMandatoryForTb2[] = {
+    {isGiven<&NtcRec::t_plan_adm_ref_id>, " t_plan_adm_ref_id is a mandatory value"},
+    {isGiven<&NtcRec::t_plan>,            " t_plan is a mandatory value"},
+    {isGiven<&NtcRec::t_d_inuse>,         " t_d_inuse is a mandatory value (2C)"},
+    {isGiven<&NtcRec::t_addr_code>,       " t_addr_code is a mandatory value (12B)"},
+};
+
+constexpr AbsentRow kAbsent[] = {
+    {once<isGiven<&NtcRec::t_adm_ref_id>>,        " : t_adm_ref_id should not be notified for a "},
+    {once<isGiven<&NtcRec::t_site_name>>,         " : t_site_name should not be notified for a "},
+    {once<isGiven<&NtcRec::t_site_alt>>,          " : t_site_alt should not be notified for a "},
+    {once<hasPosition>,                           " : t_long t_lat should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_h_dbw>>,         " : t_erp_h_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_v_dbw>>,         " : t_erp_v_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>, " : t_erp_beam_tilt_dbw should not be notified for a "},
+    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,   " : t_beam_tilt_angle should not be notified for a "},
+    {once<isGiven<&NtcRec::t_eff_hgtmax>>,        " : t_eff_hgtmax should not be notified for a "},
+    {once<isGiven<&NtcRec::t_hgt_agl>>,           " : t_hgt_agl should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentExceptInTb3[] = {
+    {once<hasCoord>,                              " : <COORD> or <COORDINATION> should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentAntenna[] = {
+    {once<hasAntDiagrH>,                          " : <ANT_DIAGR_H> should not be notified for a "},
+    {once<hasAntDiagrV>,                          " : <ANT_DIAGR_V> should not be notified for a "},
+    {once<hasAntHgt>,                             " : <ANT_HGT> should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_associated_adm_allot_id>>, " : t_associated_adm_allot_id should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_associated_allot_sfn_id>>, " : t_associated_allot_sfn_id should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentTestPoints[] = {
+    {once<isGivenInContour<&ContourRec::t_nb_test_pts>>, " : t_nb_test_pts should not be notified for a "},
+    {countPointsPresent,                          " : t_long and t_lat should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentSystem[] = {
+    {once<isGiven<&NtcRec::t_assgn_code>>,        " : t_assgn_code should not be notified for a "},
+    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
+    {once<isGiven<&NtcRec::t_sys_var>>,           " : t_sys_var should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>, " : t_rx_mode should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentExceptInTb2[] = {
+    {once<isGiven<&NtcRec::t_op_agcy>>,           " : t_op_agcy should not be notified for a "},
+    {once<isGiven<&NtcRec::t_d_inuse>>,           " : t_d_inuse should not be notified for a "},
+    {once<isGiven<&NtcRec::t_addr_code>>,         " : t_addr_code should not be notified for a "},
+    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_fr>>, " : t_op_hh_fr should not be notified for a "},
+    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_to>>, " : t_op_hh_to should not be notified for a "},
+};
+
+constexpr AbsentRow kAbsentDeclarations[] = {
+    {once<isGiven<&NtcRec::t_remark_conds_met>>,  " : t_remarks_conds_met should not be notified for a "},
+    {once<isGiven<&NtcRec::t_is_resub>>,          " : t_is_resub should not be notified for a "},
+    {once<isGiven<&NtcRec::t_signed_commitment>>, " : t_signed_commitment should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_typ_ref_netwk>>, " : t_typ_ref_netwk should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_allot_name>>, " : t_allot_name should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_geo_area>>, " : t_geo_area should not be notified for a "},
+    {once<isGivenInAllot<&AllotRec::t_nb_sub_areas>>, " : t_nb_sub_areas should not be notified for a "},
+    {countGivenContourIds,                        " : t_contour_id should not be notified for a "},
+    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
+    {once<isGiven<&NtcRec::t_is_pub_req>>,        " : t_is_pub_req should not be notified for a "},
+    {once<isGivenInDigital<&DigitalRec::t_sfn_id>>, " : t_sfn_id should not be notified for a "},
+};
+// clang-format on
+
+void checkTarget(RuleReport& report, const NtcRec& ntc) {
+  const bool frequency = !ntc.t_trg_freq_assgn.empty();
+  const bool allParts = !(ntc.trg_long_deg.empty() || ntc.trg_long_min.empty() || ntc.trg_lat_deg.empty() ||
+                          ntc.trg_lat_min.empty());
+  const bool anyPart = !(ntc.trg_long_deg.empty() && ntc.trg_long_min.empty() && ntc.trg_lat_deg.empty() &&
+                         ntc.trg_lat_min.empty());
+  if (!ntc.t_trg_adm_ref_id.empty() && (frequency || anyPart)) {
+    report.fatal(
+        " Either t_trg_adm_ref_id or t_trg_freq and t_trg_long and t_trg_lat must be provided, but not both");
+  }
+  if (frequency && !allParts) report.fatal(" t_trg_long and t_trg_lat must be provided");
+  if (allParts && !frequency) report.fatal(" t_freq_assgn must be provided");
+}
+
+bool isGivenAndNot(std::string_view value, bool accepted) { return !value.empty() && !accepted; }
+
+void checkPlan(RuleReport& report, const NtcRec& ntc) {
+  if (isGivenAndNot(ntc.t_plan, equalsIgnoringCase(ntc.t_plan, "KV19D"))) {
+    report.fatal(" t_plan : Acceptable value for assignments are {KV19D}");
+  }
+}
+
+}  // namespace
+
+bool checkTb5Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  if (isGivenAndNot(ntc.t_fragment, isFragment(ntc, "KV19D") || isFragment(ntc, "NTFD_PZ"))) {
+    report.fatal(" t_fragment : Acceptable value for assignments are {KV19D, NTFD_PZ}");
+  }
+  if (isGivenAndNot(ntc.t_action, isAction(ntc, "WITHDRAW") || isAction(ntc, "SUPPRESS"))) {
+    report.fatal(" t_action : Acceptable values are {SUPPRESS, WITHDRAW}");
+  }
+  return report.good;
+}
+
+bool checkTb3Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  checkPlan(report, ntc);
+  if (isGivenAndNot(ntc.t_action, isAction(ntc, "PARTB"))) {
+    report.fatal(" t_action : Acceptable values are {PARTB}");
+  }
+  return report.good;
+}
+
+bool checkTb2Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  checkPlan(report, ntc);
+  // The message has always named the value of a TB3.
+  if (isGivenAndNot(ntc.t_action, isAction(ntc, "CONFORM"))) {
+    report.fatal(" t_action : Acceptable values are {PARTB}");
+  }
+  return report.good;
+}
+
+bool checkTb5Mandatory(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  demand(report, ntc, kTarget);
+  return checkTbAbsentFields(ntc, errs, label) && report.good;
+}
+
+bool checkTb3Mandatory(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  demand(report, ntc, kTarget);
+  demand(report, ntc, kPlan);
+  return checkTbAbsentFields(ntc, errs, label) && report.good;
+}
+
+bool checkTb2Mandatory(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  demand(report, ntc, kMandatoryForTb2);
+  checkTarget(report, ntc);
+  return checkTbAbsentFields(ntc, errs, label) && report.good;
+}
+
+bool checkTbAbsentFields(const NtcRec& ntc, std::string& errs, std::string_view label) {
+  RuleReport report{errs, label};
+  const std::string& type = ntc.t_notice_type;
+  forbid(report, ntc, kAbsent, type);
+  if (!isType(ntc, "TB3")) forbid(report, ntc, kAbsentExceptInTb3, type);
+  forbid(report, ntc, kAbsentAntenna, type);
+  if (!ntc.digital.contour.t_nb_test_pts.empty()) forbid(report, ntc, kAbsentTestPoints, type);
+  forbid(report, ntc, kAbsentSystem, type);
+  if (!isType(ntc, "TB2")) forbid(report, ntc, kAbsentExceptInTb2, type);
+  forbid(report, ntc, kAbsentDeclarations, type);
+  return report.good;
+}
+
+}  // namespace zamo

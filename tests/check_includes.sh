@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Fails when a folder under src/ includes what its place in the house doesn't allow.
+set -euo pipefail
+src=$1
+status=0
+
+# Tells every line in folder $1 that includes something matching $2.
+forbid() {
+  if grep -rnE "#include +[<\"]($2)" "$src/$1" --include='*.h' --include='*.cpp'; then
+    echo "^ not allowed in $1/"
+    status=1
+  fi
+}
+
+own='platform|model|noticefile|map|validation|database|query|screens|shell'
+qt='Q[A-Z]|Qt'
+forbid platform "(model|noticefile|map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
+forbid model "(noticefile|map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
+forbid noticefile "(map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
+forbid validation "(database|query|screens|shell)/|$qt|sqlite3|s2/"
+forbid database "(map|validation|query|screens|shell)/|$qt|s2/"
+forbid shell "sqlite3|s2/"
+[ -z "$(find "$src" -mindepth 1 -maxdepth 1 -type d | grep -vE "/($own)$")" ] || {
+  echo "a folder under src/ that has no place in the house"
+  status=1
+}
+
+# Nothing else knows the shell.
+for folder in "$src"/*/; do
+  name=$(basename "$folder")
+  [ "$name" = shell ] || forbid "$name" "shell/"
+done
+exit $status

@@ -1,0 +1,265 @@
+#include "noticefile/line_source.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "platform/run_time_error.h"
+#include "support/temp_folder.h"
+
+namespace zamo {
+namespace {
+
+using test::TempFolder;
+
+constexpr std::size_t kBlock = 256 * std::size_t{1024};
+
+using Lines = std::vector<std::string>;
+
+Lines linesOf(LineSource lines) {
+  Lines all;
+  while (!lines.atEnd()) all.emplace_back(lines.nextLine());
+  EXPECT_EQ(lines.lineNo(), static_cast<std::int64_t>(all.size()));
+  EXPECT_FALSE(lines.exhausted());
+  return all;
+}
+
+// The lines of the text, which must be the same from a file and from memory.
+Lines linesOfText(std::string_view text) {
+  const TempFolder folder;
+  const Lines lines = linesOf(LineSource(folder.write("a.txt", text)));
+  EXPECT_EQ(linesOf(LineSource::ofText(text)), lines);
+  return lines;
+}
+
+int errorNumberOf(const std::string& path) {
+  try {
+    LineSource lines(path);
+    while (!lines.atEnd()) lines.nextLine();
+  } catch (const RunTimeError& error) {
+    EXPECT_NE(error.text, "");
+    return error.number;
+  }
+  return 0;
+}
+
+TEST(LineSource, carriage_return_and_line_feed_end_a_line) {
+  EXPECT_EQ(linesOfText("a\r\nb\r\nc\r\n"), (Lines{"a", "b", "c"}));
+}
+
+TEST(LineSource, a_lone_line_feed_ends_a_line) {
+  EXPECT_EQ(linesOfText("a\nb\n\nc\n"), (Lines{"a", "b", "", "c"}));
+}
+
+TEST(LineSource, a_lone_carriage_return_ends_a_line) {
+  EXPECT_EQ(linesOfText("a\rb\r\rc\r"), (Lines{"a", "b", "", "c"}));
+}
+
+TEST(LineSource, line_ends_can_be_mixed) {
+  EXPECT_EQ(linesOfText("a\rb\nc\r\nd\n\re\r\r\nf"), (Lines{"a", "b", "c", "d", "", "e", "", "f"}));
+}
+
+TEST(LineSource, the_last_line_needs_no_end) {
+  EXPECT_EQ(linesOfText("a\r\nb"), (Lines{"a", "b"}));
+  EXPECT_EQ(linesOfText("a"), (Lines{"a"}));
+}
+
+TEST(LineSource, no_empty_line_follows_the_last_line_end) {
+  EXPECT_EQ(linesOfText("a\r\n"), (Lines{"a"}));
+  EXPECT_EQ(linesOfText("a\r"), (Lines{"a"}));
+  EXPECT_EQ(linesOfText("a\n"), (Lines{"a"}));
+  EXPECT_EQ(linesOfText("\r\n"), (Lines{""}));
+  EXPECT_EQ(linesOfText("\r\n\r\n"), (Lines{"", ""}));
+}
+
+TEST(LineSource, an_empty_file_is_at_its_end) {
+  EXPECT_EQ(linesOfText(""), (Lines{}));
+  LineSource lines = LineSource::ofText("");
+  EXPECT_TRUE(lines.atEnd());
+  EXPECT_FALSE(lines.exhausted());
+  EXPECT_EQ(lines.lineNo(), 0);
+}
+
+TEST(LineSource, a_line_of_blanks_is_a_line_before_the_end) {
+  EXPECT_EQ(linesOfText("a\r\n   "), (Lines{"a", ""}));
+}
+
+TEST(LineSource, tabs_become_blanks_and_blanks_at_both_ends_go) {
+  EXPECT_EQ(linesOfText("\t a\t=\t\tb \t\r\n"), (Lines{"a =  b"}));
+  EXPECT_EQ(linesOfText("  \t  \r\n"), (Lines{""}));
+}
+
+TEST(LineSource, only_blanks_are_trimmed) {
+  EXPECT_EQ(linesOfText("\240a\240\r\n\va\f\r\n"), (Lines{"\240a\240", "\va\f"}));
+}
+
+TEST(LineSource, nul_bytes_are_kept) {
+  const std::string text("a\0b\r\n\0\r\n", 8);
+  EXPECT_EQ(linesOfText(text), (Lines{std::string("a\0b", 3), std::string("\0", 1)}));
+}
+
+TEST(LineSource, all_other_bytes_are_kept) {
+  std::string text;
+  for (int i = 0; i < 256; ++i) {
+    if (i != '\t' && i != '\r' && i != '\n') text += static_cast<char>(i);
+  }
+  EXPECT_EQ(linesOfText(text), (Lines{text}));
+}
+
+TEST(LineSource, reading_on_at_the_end_gives_empty_texts_and_counts) {
+  LineSource lines = LineSource::ofText("a\r\n");
+  EXPECT_EQ(lines.nextLine(), "a");
+  EXPECT_TRUE(lines.atEnd());
+  EXPECT_FALSE(lines.exhausted());
+  EXPECT_EQ(lines.lineNo(), 1);
+  EXPECT_EQ(lines.nextLine(), "");
+  EXPECT_TRUE(lines.exhausted());
+  EXPECT_EQ(lines.lineNo(), 2);
+  EXPECT_EQ(lines.nextLine(), "");
+  EXPECT_EQ(lines.lineNo(), 3);
+}
+
+TEST(LineSource, the_end_is_known_as_soon_as_the_last_line_is_read) {
+  const TempFolder folder;
+  for (const char* text : {"a\r\nb\r\n", "a\rb\r", "a\nb\n", "a\nb"}) {
+    LineSource lines(folder.write("a.txt", text));
+    EXPECT_FALSE(lines.atEnd());
+    lines.nextLine();
+    EXPECT_FALSE(lines.atEnd());
+    lines.nextLine();
+    EXPECT_TRUE(lines.atEnd());
+  }
+}
+
+TEST(LineSource, line_ends_may_straddle_the_blocks_that_are_read) {
+  const TempFolder folder;
+  for (const char* end : {"\r\n", "\n", "\r"}) {
+    for (std::size_t before = kBlock - 4; before <= kBlock + 4; ++before) {
+      const std::string first(before, 'x');
+      const std::string path = folder.write("a.txt", first + end + "second" + end + "third");
+      EXPECT_EQ(linesOf(LineSource(path)), (Lines{first, "second", "third"})) << before;
+      EXPECT_EQ(linesOf(LineSource(folder.write("b.txt", first + end))), (Lines{first})) << before;
+    }
+  }
+}
+
+TEST(LineSource, lines_may_straddle_the_blocks_that_are_read) {
+  std::string text;
+  Lines expected;
+  for (int i = 0; i < 200000; ++i) {
+    expected.push_back("t_key_" + std::to_string(i) + " = value");
+    text += " \t" + expected.back() + (i % 3 == 0 ? "\r\n" : i % 3 == 1 ? "\n" : "\r");
+  }
+  const TempFolder folder;
+  EXPECT_TRUE(linesOf(LineSource(folder.write("a.txt", text))) == expected);
+}
+
+TEST(LineSource, empty_lines_may_straddle_the_blocks_that_are_read) {
+  const TempFolder folder;
+  const Lines lines = linesOf(LineSource(folder.write("a.txt", "x" + std::string(3 * kBlock, '\n'))));
+  EXPECT_EQ(lines.size(), 3 * kBlock);
+}
+
+TEST(LineSource, a_byte_order_mark_is_dropped) {
+  EXPECT_EQ(linesOfText("\xEF\xBB\xBF<HEAD>\r\nb\r\n"), (Lines{"<HEAD>", "b"}));
+  EXPECT_EQ(linesOfText("\xEF\xBB\xBF"), (Lines{}));
+  EXPECT_EQ(linesOfText("\xEF\xBB\xBF\r\n"), (Lines{""}));
+}
+
+TEST(LineSource, a_file_with_the_mark_is_converted_from_utf_8) {
+  EXPECT_EQ(linesOfText("\xEF\xBB\xBFt_site_name = Gen\xC3\xA8ve \xE2\x82\xAC\r\n\xC2\xB1\r\n"),
+            (Lines{"t_site_name = Gen\350ve \200", "\261"}));
+  EXPECT_EQ(linesOfText("\xEF\xBB\xBF\xD0\x94\xF0\x9F\x93\xBB\r\n"), (Lines{"?\?"}));
+}
+
+TEST(LineSource, a_file_without_the_mark_is_left_as_it_is) {
+  EXPECT_EQ(linesOfText("Gen\xC3\xA8ve\r\n"), (Lines{"Gen\303\250ve"}));
+  EXPECT_EQ(linesOfText("\xEF\xBB"), (Lines{"\xEF\xBB"}));
+  EXPECT_EQ(linesOfText("a\xEF\xBB\xBF"), (Lines{"a\xEF\xBB\xBF"}));
+  EXPECT_EQ(linesOfText("\r\n\xEF\xBB\xBF"
+                        "a"),
+            (Lines{"",
+                   "\xEF\xBB\xBF"
+                   "a"}));
+}
+
+TEST(LineSource, utf_8_may_straddle_the_blocks_that_are_read) {
+  const TempFolder folder;
+  for (std::size_t before = kBlock - 8; before <= kBlock; ++before) {
+    const std::string path =
+        folder.write("a.txt", "\xEF\xBB\xBF" + std::string(before, 'x') + "\xE2\x82\xAC\r\nb");
+    EXPECT_EQ(linesOf(LineSource(path)), (Lines{std::string(before, 'x') + "\200", "b"})) << before;
+  }
+}
+
+TEST(LineSource, moves_with_its_place_in_the_file) {
+  const TempFolder folder;
+  LineSource first(folder.write("a.txt", "a\r\nb\r\nc\r\n"));
+  first.nextLine();
+  LineSource second(std::move(first));
+  EXPECT_EQ(second.nextLine(), "b");
+  EXPECT_EQ(second.lineNo(), 2);
+  EXPECT_EQ(second.nextLine(), "c");
+  EXPECT_TRUE(second.atEnd());
+}
+
+TEST(LineSource, a_missing_file_is_error_53) {
+  const TempFolder folder;
+  EXPECT_EQ(errorNumberOf(folder.file("none.txt")), 53);
+  EXPECT_EQ(errorNumberOf(folder.file("gone/none.txt")), 53);
+  EXPECT_EQ(errorNumberOf(""), 53);
+}
+
+TEST(LineSource, a_folder_is_error_70) {
+  const TempFolder folder;
+  EXPECT_EQ(errorNumberOf(folder.path()), 70);
+}
+
+double secondsForOneLineOf(std::size_t bytes, const TempFolder& folder) {
+  const std::string path = folder.write("long.txt", std::string(bytes, 'x') + "\r\nlast\r\n");
+  const auto start = std::chrono::steady_clock::now();
+  LineSource lines(path);
+  EXPECT_EQ(lines.nextLine().size(), bytes);
+  EXPECT_EQ(lines.nextLine(), "last");
+  EXPECT_TRUE(lines.atEnd());
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+TEST(LineSource, a_line_of_100_megabytes_takes_time_in_proportion) {
+  const TempFolder folder;
+  const double small = secondsForOneLineOf(12'500'000, folder);
+  const double large = secondsForOneLineOf(100'000'000, folder);
+  // Eight times the bytes: a reader that looks at them again and again needs 64 times as long.
+  EXPECT_LT(large, 30 * small + 1.0);
+  EXPECT_LT(large, 5.0);
+}
+
+TEST(LineSource, a_line_of_100_megabytes_takes_memory_of_that_order) {
+  const TempFolder folder;
+  const std::string path = folder.file("long.txt");
+  {
+    const std::string block(1'000'000, 'x');
+    for (int i = 0; i < 100; ++i) {
+      std::FILE* file = std::fopen(path.c_str(), "ab");
+      ASSERT_NE(file, nullptr);
+      std::fwrite(block.data(), 1, block.size(), file);
+      std::fclose(file);
+    }
+  }
+  // In a process of its own, whose highest use of memory is this reader's.
+  EXPECT_EXIT(
+      {
+        LineSource lines(path);
+        const std::size_t size = lines.nextLine().size();
+        rusage use{};
+        ::getrusage(RUSAGE_SELF, &use);
+        std::exit(size == 100'000'000 && use.ru_maxrss < 600 * 1024 ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace zamo

@@ -1,0 +1,198 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+
+#include "platform/run_time_error.h"
+#include "support/temp_folder.h"
+
+namespace zamo {
+namespace {
+
+using test::readFile;
+using test::TempFolder;
+
+// The error that `work` throws; number 0 when it throws none.
+template <typename Work>
+RunTimeError errorOf(Work work) {
+  try {
+    work();
+  } catch (const RunTimeError& error) {
+    return error;
+  }
+  return {};
+}
+
+std::size_t entriesIn(const std::string& folder) {
+  std::size_t count = 0;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder)) ++count;
+  return count;
+}
+
+// Lets files grow to `bytes` only, so that writes fail midway as they do on a full disk.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit limit{bytes, old_.rlim_max};
+    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, oldHandler_);
+  }
+
+ private:
+  rlimit old_{};
+  void (*oldHandler_)(int);
+};
+
+TEST(Files, exist_as_file_or_folder) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "");
+  EXPECT_TRUE(fileExists(path));
+  EXPECT_TRUE(fileExists(folder.path()));
+  EXPECT_FALSE(fileExists(folder.file("b.txt")));
+  EXPECT_FALSE(fileExists(""));
+}
+
+TEST(Files, errors_count_as_not_found) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "");
+  EXPECT_FALSE(fileExists(path + "/below"));
+  EXPECT_FALSE(fileExists(folder.file(std::string(5000, 'x'))));
+}
+
+TEST(Files, the_question_whether_one_exists_yields_once) {
+  int yields = 0;
+  fileExists("/nowhere", [&yields] { ++yields; });
+  EXPECT_EQ(yields, 1);
+}
+
+TEST(ReplaceFile, creates_the_file_byte_for_byte) {
+  const TempFolder folder;
+  const std::string content("a\r\n\0\261\n", 6);
+  replaceFile(folder.file("a.txt"), content);
+  EXPECT_EQ(readFile(folder.file("a.txt")), content);
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, leaves_nothing_of_a_longer_old_file) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "a long old text");
+  replaceFile(path, "new");
+  EXPECT_EQ(readFile(path), "new");
+  replaceFile(path, "");
+  EXPECT_EQ(readFile(path), "");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, a_missing_folder_is_file_not_found) {
+  const TempFolder folder;
+  const RunTimeError error = errorOf([&] { replaceFile(folder.file("gone/a.txt"), "new"); });
+  EXPECT_EQ(error.number, 53);
+  EXPECT_NE(error.text, "");
+  EXPECT_EQ(entriesIn(folder.path()), 0U);
+}
+
+TEST(ReplaceFile, a_folder_of_that_name_is_permission_denied_and_stays) {
+  const TempFolder folder;
+  const std::string path = folder.file("a.txt");
+  std::filesystem::create_directory(path);
+  std::filesystem::create_directory(path + "/inside");
+  const RunTimeError error = errorOf([&] { replaceFile(path, "new"); });
+  EXPECT_EQ(error.number, 70);
+  EXPECT_TRUE(std::filesystem::is_directory(path + "/inside"));
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, a_full_disk_leaves_the_old_file_and_no_other) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "the old text");
+  RunTimeError error;
+  {
+    const FileSizeLimit limit(10000);
+    error = errorOf([&] { replaceFile(path, std::string(50000, 'x')); });
+  }
+  EXPECT_EQ(error.number, 61);
+  EXPECT_NE(error.text, "");
+  EXPECT_EQ(readFile(path), "the old text");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, a_full_disk_leaves_no_new_file) {
+  const TempFolder folder;
+  RunTimeError error;
+  {
+    const FileSizeLimit limit(10000);
+    error = errorOf([&] { replaceFile(folder.file("a.txt"), std::string(50000, 'x')); });
+  }
+  EXPECT_EQ(error.number, 61);
+  EXPECT_EQ(entriesIn(folder.path()), 0U);
+}
+
+TEST(ReplaceFile, works_again_after_a_failure) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "the old text");
+  {
+    const FileSizeLimit limit(10000);
+    errorOf([&] { replaceFile(path, std::string(50000, 'x')); });
+  }
+  replaceFile(path, std::string(50000, 'x'));
+  EXPECT_EQ(readFile(path), std::string(50000, 'x'));
+}
+
+TEST(ReplaceFile, a_folder_without_write_permission_keeps_the_old_file) {
+  if (::geteuid() == 0) GTEST_SKIP() << "permissions don't bind the superuser";
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "the old text");
+  ::chmod(folder.path().c_str(), 0500);
+  const RunTimeError error = errorOf([&] { replaceFile(path, "new"); });
+  ::chmod(folder.path().c_str(), 0700);
+  EXPECT_EQ(error.number, 70);
+  EXPECT_EQ(readFile(path), "the old text");
+}
+
+TEST(AppendToFile, adds_at_the_end_and_creates_what_is_missing) {
+  const TempFolder folder;
+  const std::string path = folder.file("log.csv");
+  appendToFile(path, "one\r\n");
+  appendToFile(path, "two\r\n");
+  appendToFile(path, "");
+  EXPECT_EQ(readFile(path), "one\r\ntwo\r\n");
+}
+
+TEST(AppendToFile, failures_are_errors_with_a_number) {
+  const TempFolder folder;
+  EXPECT_EQ(errorOf([&] { appendToFile(folder.file("gone/log.csv"), "x"); }).number, 53);
+  EXPECT_EQ(errorOf([&] { appendToFile(folder.path(), "x"); }).number, 70);
+}
+
+TEST(Base, is_the_path_less_four_characters_whatever_they_are) {
+  EXPECT_EQ(baseOf("/tmp/a.txt"), "/tmp/a");
+  EXPECT_EQ(baseOf("/tmp/a.upd"), "/tmp/a");
+  EXPECT_EQ(baseOf("notices"), "not");
+  EXPECT_EQ(baseOf("a.html"), "a.");
+  EXPECT_EQ(baseOf("\351.txt"), "\351");
+}
+
+TEST(Base, of_a_short_name_is_empty) {
+  EXPECT_EQ(baseOf(".txt"), "");
+  EXPECT_EQ(baseOf("abc"), "");
+  EXPECT_EQ(baseOf("a"), "");
+  EXPECT_EQ(baseOf(""), "");
+}
+
+TEST(ExecutableFolder, is_where_this_program_stands) {
+  EXPECT_EQ(executableFolder() + "/platform_test", std::filesystem::read_symlink("/proc/self/exe").string());
+}
+
+}  // namespace
+}  // namespace zamo

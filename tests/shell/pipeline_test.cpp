@@ -1,0 +1,219 @@
+#include "shell/pipeline.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/files.h"
+#include "support/scripted_host.h"
+#include "support/temp_folder.h"
+
+namespace zamo {
+namespace {
+
+using test::readFile;
+using test::Script;
+using test::TempFolder;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::string_view kGoodFile =
+    "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
+    "<NOTICE>\r\nt_notice_type = TB5\r\n</NOTICE>\r\n"
+    "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n";
+constexpr std::string_view kBadStructure = "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n<TAIL>\r\nt_num_notices = 0\r\n</TAIL>\r\n";
+constexpr std::string_view kBadValue =
+    "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
+    "<NOTICE>\r\nt_notice_type = TB9\r\n</NOTICE>\r\n"
+    "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n";
+
+class Pipeline : public testing::Test {
+ protected:
+  Pipeline() {
+    shell.host = makeScriptedHost(script);
+    shell.screen.viewFileVisible = false;
+    shell.screen.reValVisible = false;
+    shell.screen.queryEnabled = false;
+    shell.screen.txtDbEnabled = false;
+  }
+
+  std::string choose(std::string_view name, std::string_view content) {
+    script.files.push_back(folder.write(name, content));
+    return script.files.back();
+  }
+
+  Script script;
+  TempFolder folder;
+  Shell shell;
+};
+
+TEST_F(Pipeline, a_file_with_sound_values_leaves_no_report_and_enables_the_menus) {
+  choose("good.txt", kGoodFile);
+  runTextCommand(shell, kBasic);
+  EXPECT_FALSE(std::filesystem::exists(folder.file("good_val_outcome.txt")));
+  EXPECT_THAT(script.viewed, IsEmpty());
+  EXPECT_THAT(script.boxes, IsEmpty());
+  EXPECT_TRUE(shell.screen.queryEnabled);
+  EXPECT_TRUE(shell.screen.txtDbEnabled);
+  EXPECT_FALSE(shell.screen.viewFileVisible);
+  EXPECT_FALSE(shell.screen.reValVisible);
+  EXPECT_THAT(script.statuses, ElementsAre("Checking the File format. Please be patient....",
+                                           "Basic validation is running. Please be patient....", "Notice no : 1"));
+  EXPECT_EQ(script.hourglasses, 0);
+}
+
+TEST_F(Pipeline, a_failed_structure_check_reports_its_text_alone) {
+  const std::string file = choose("bad.txt", kBadStructure);
+  runTextCommand(shell, kCompleteWithGeo);
+  EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")),
+            "Number of Notice sections found : 0\r\n" + file +
+                " : ERROR : An electronic notice should have \r\n at least ONE <NOTICE> section\r\n\r\n");
+  EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
+  EXPECT_EQ(script.statuses.back(), "File format has errors. Please correct and re-validate to proceed");
+  EXPECT_TRUE(shell.screen.viewFileVisible);
+  EXPECT_TRUE(shell.screen.reValVisible);
+  EXPECT_FALSE(shell.screen.queryEnabled);
+  EXPECT_FALSE(shell.screen.txtDbEnabled);
+  EXPECT_EQ(shell.run.ValLevel, 3);
+}
+
+TEST_F(Pipeline, a_failed_basic_validation_reports_behind_the_five_header_items) {
+  choose("bad.txt", kBadValue);
+  runTextCommand(shell, kCompleteWithoutGeo);
+  EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")),
+            "The input file has been validated with  LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006\r\n"
+            "On 2026-03-07 -  09:05:04 by tester\r\n"
+            " \r\n"
+            "Basic Validation error(s)\r\n"
+            "Notice No : 1 : Error : Line No : 5  t_notice_type : Acceptables values are {GS1, GT1, GS2, GT2, GA1, "
+            "TB2, TB3, TB5}\r\n"
+            "\r\n");
+  EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
+  EXPECT_EQ(script.statuses.back(), "Basic validation has errors. Please correct and re-validate to proceed");
+  EXPECT_TRUE(shell.screen.viewFileVisible);
+  EXPECT_TRUE(shell.screen.reValVisible);
+  EXPECT_FALSE(shell.screen.queryEnabled);
+  EXPECT_FALSE(shell.screen.txtDbEnabled);
+}
+
+TEST_F(Pipeline, a_report_replaces_the_old_one_and_a_stale_one_stays_after_a_clean_run) {
+  folder.write("a_val_outcome.txt", "old");
+  const std::string file = choose("a.txt", kBadValue);
+  runTextCommand(shell, kBasic);
+  const std::string report = readFile(folder.file("a_val_outcome.txt"));
+  EXPECT_EQ(report.find("old"), std::string::npos);
+  folder.write("a.txt", kGoodFile);
+  ButtonReVal(shell);
+  EXPECT_EQ(readFile(folder.file("a_val_outcome.txt")), report);
+  EXPECT_FALSE(shell.screen.reValVisible);
+  EXPECT_EQ(script.fileRequests.size(), 1U);
+}
+
+TEST_F(Pipeline, every_extension_loses_its_last_four_characters) {
+  choose("a.upd", kBadValue);
+  runTextCommand(shell, kBasic);
+  EXPECT_TRUE(std::filesystem::exists(folder.file("a_val_outcome.txt")));
+  choose("notice.text", kBadValue);
+  runTextCommand(shell, kBasic);
+  EXPECT_TRUE(std::filesystem::exists(folder.file("notice._val_outcome.txt")));
+}
+
+TEST_F(Pipeline, cancelling_the_dialog_keeps_the_level_and_runs_no_stage) {
+  shell.run.WorkDir = "c:\\";
+  shell.screen.fileName = "before";
+  runTextCommand(shell, kCompleteWithoutGeo);
+  EXPECT_EQ(shell.run.ValLevel, 2);
+  EXPECT_THAT(script.statuses, IsEmpty());
+  EXPECT_EQ(shell.screen.fileName, "before");
+  EXPECT_FALSE(shell.screen.statusVisible);
+  ASSERT_EQ(script.fileRequests.size(), 1U);
+  EXPECT_EQ(script.fileRequests[0].folder, "c:\\");
+  EXPECT_EQ(script.fileRequests[0].filter, "Text Files (*.txt)|*.txt|Updated Files (*.upd)|*.upd");
+}
+
+TEST_F(Pipeline, choosing_a_file_disables_the_menus_of_the_last_run_and_stamps_the_times) {
+  shell.screen.queryEnabled = true;
+  shell.screen.txtDbEnabled = true;
+  shell.screen.gridVisible = true;
+  const std::string file = choose("good.txt", kGoodFile);
+  EXPECT_TRUE(chooseNoticeFile(shell));
+  EXPECT_FALSE(shell.screen.queryEnabled);
+  EXPECT_FALSE(shell.screen.txtDbEnabled);
+  EXPECT_FALSE(shell.screen.gridVisible);
+  EXPECT_TRUE(shell.screen.inputVisible);
+  EXPECT_TRUE(shell.screen.statusVisible);
+  EXPECT_EQ(shell.screen.fileName, file);
+  EXPECT_EQ(shell.run.NtcFileName, file);
+  EXPECT_EQ(shell.run.fileTime, "9:5:4");
+}
+
+TEST_F(Pipeline, without_a_viewer_a_box_names_the_report) {
+  script.hasViewer = false;
+  choose("bad.txt", kBadStructure);
+  runTextCommand(shell, kBasic);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text,
+            "Cannot find Notepad.exe. The validation report cannot be shown, but is available on " +
+                folder.file("bad_val_outcome.txt"));
+  EXPECT_EQ(script.boxes[0].title, "Information");
+  EXPECT_EQ(script.boxes[0].icon, BoxIcon::information);
+}
+
+TEST_F(Pipeline, view_file_shows_the_input_file_and_not_the_report) {
+  const std::string file = choose("bad.txt", kBadStructure);
+  runTextCommand(shell, kBasic);
+  script.viewed.clear();
+  ButtonViewFile(shell);
+  EXPECT_THAT(script.viewed, ElementsAre(file));
+  script.hasViewer = false;
+  ButtonViewFile(shell);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Cannot find Notepad.exe. Unable to show the input file");
+  EXPECT_EQ(script.boxes[0].title, "Information");
+  EXPECT_EQ(script.boxes[0].icon, BoxIcon::information);
+}
+
+TEST_F(Pipeline, a_report_that_cannot_be_written_is_told_and_leaves_nothing_half_written) {
+  std::filesystem::create_directory(folder.file("bad_val_outcome.txt"));
+  shell.run.NtcFileName = folder.write("bad.txt", kBadValue);
+  const Verdict verdict = judgeFile(shell);
+  EXPECT_EQ(verdict.failedAt, Stage::basic);
+  EXPECT_TRUE(verdict.machineFailed);
+  EXPECT_EQ(verdict.report, "");
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Erreur 70:Permission denied: " + folder.file("bad_val_outcome.txt"));
+  EXPECT_EQ(script.boxes[0].title, "checkFormatAndBasic");
+  EXPECT_THAT(script.viewed, IsEmpty());
+  EXPECT_FALSE(std::filesystem::exists(folder.file("bad_val_outcome.txt.part")));
+}
+
+TEST_F(Pipeline, a_file_that_vanished_before_revalidation_fails_with_the_box_of_the_structure_check) {
+  shell.run.NtcFileName = folder.file("gone.txt");
+  ButtonReVal(shell);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Erreur 53:File not found: " + folder.file("gone.txt"));
+  EXPECT_EQ(script.boxes[0].title, "Validate File format");
+  EXPECT_TRUE(shell.screen.reValVisible);
+}
+
+TEST_F(Pipeline, a_directory_is_no_notice_file) {
+  shell.run.NtcFileName = folder.path();
+  const Verdict verdict = judgeFile(shell);
+  EXPECT_TRUE(verdict.machineFailed);
+  EXPECT_EQ(verdict.failedAt, Stage::structure);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Erreur 70:Permission denied: " + folder.path());
+}
+
+TEST_F(Pipeline, an_empty_file_reports_the_missing_head) {
+  const std::string file = folder.write("empty.txt", "");
+  shell.run.NtcFileName = file;
+  EXPECT_FALSE(judgeFile(shell).passed());
+  EXPECT_EQ(readFile(folder.file("empty_val_outcome.txt")),
+            "Number of Notice sections found : 0\r\n" + file +
+                " : ERROR : An electronic notice file should start with \r\n ONE <HEAD> section \r\n\r\n");
+}
+
+}  // namespace
+}  // namespace zamo
