@@ -54,8 +54,10 @@ for ((round = 0; round < rounds; ++round)); do
   measure count_keys
 done
 
+small_memory=$(peak_memory "$small.txt")
+large_memory=$(peak_memory "$large.txt")
 awk -v check="$(median check_small)" -v xml="$(median validate_xml)" -v grep="$(median count_keys)" \
-  -v small="$(peak_memory "$small.txt")" -v large="$(peak_memory "$large.txt")" -v rounds="$rounds" '
+  -v small="$small_memory" -v large="$large_memory" -v rounds="$rounds" '
   function row(what, measured, bound) { printf "%-42s %16s   %s\n", what, measured, bound }
   BEGIN {
     row("20,000 notices, median of " rounds " runs", "measured", "bound")

@@ -4,9 +4,6 @@
 #include <array>
 #include <initializer_list>
 #include <span>
-#include <type_traits>
-#include <initializer_list>
-#include <span>
 
 #include "noticefile/key_table.h"
 #include "noticefile/strict_tables.h"

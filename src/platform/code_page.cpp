@@ -57,9 +57,9 @@ char32_t takeCharacter(std::string_view& utf8) {
     }
     value = (value << 6) | (byte(i) & 0x3FU);
   }
-  // A longer form than the character needs isn't well formed either.
+  // A longer form than the character needs isn't well formed either, nor is half of a pair.
   constexpr char32_t lowestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
-  if (value < lowestOfLength[length]) {
+  if (value < lowestOfLength[length] || (value >= 0xD800 && value < 0xE000) || value > 0x10FFFF) {
     length = 1;
     value = kIllFormed;
   }

@@ -5,12 +5,6 @@
 #include "shell/start_up.h"
 
 namespace zamo {
-namespace {
-
-constexpr std::size_t kLongestFolder = 259;  // characters of the browser's buffer, its NUL left out
-
-}  // namespace
-
 void mnuPrefDir(Shell& shell) {
   const std::string stored = shell.host.readSetting(kWorkDirSetting);
   if (!stored.empty()) {
@@ -21,7 +15,7 @@ void mnuPrefDir(Shell& shell) {
     if (!shell.host.askYesNo({question, "Set the Working Directory", BoxIcon::information})) return;
   }
   const std::optional<std::string> chosen = shell.host.chooseFolder("Select the working folder");
-  if (chosen && !chosen->empty() && chosen->size() <= kLongestFolder) shell.run.WorkDir = *chosen;
+  if (chosen && !chosen->empty()) shell.run.WorkDir = *chosen;
   shell.host.saveSetting(kWorkDirSetting, shell.run.WorkDir);
 }
 

@@ -9,6 +9,7 @@ namespace zamo {
 
 StageResult runBasicValidation(const Host& host, std::string& report, std::int64_t& noticesRead,
                                const std::string& filePath, bool withFileName) {
+  noticesRead = 0;
   try {
     LineSource lines(filePath);
     return {validateLines(host, lines, report, noticesRead, withFileName ? textFromUtf8(filePath) : std::string())};
@@ -21,7 +22,6 @@ StageResult runBasicValidation(const Host& host, std::string& report, std::int64
 bool validateLines(const Host& host, LineSource& lines, std::string& report, std::int64_t& noticesRead,
                    std::string_view prefixOfFile) {
   bool result = false;
-  noticesRead = 0;
   StrictReading reading{lines, report, {}, host.yield, {}, {}};
   while (!lines.atEnd()) {
     readLine(reading);

@@ -16,7 +16,7 @@ namespace zamo {
 StageResult runBasicValidation(const Host& host, std::string& report, std::int64_t& noticesRead,
                                const std::string& filePath, bool withFileName);
 
-// The same on lines. Throws RunTimeError.
+// The same on lines, with `noticesRead` counted on. Throws RunTimeError.
 bool validateLines(const Host& host, LineSource& lines, std::string& report, std::int64_t& noticesRead,
                    std::string_view prefixOfFile);
 
