@@ -1,5 +1,5 @@
 # The commands of the README. Each installs what is missing, builds, and does its job.
-.PHONY: run test bench fuzz tidy format packages release
+.PHONY: run test bench fuzz tidy format messages packages release
 
 release_bin := build/release/bin
 fuzz_seconds ?= 60
@@ -26,6 +26,11 @@ tidy: packages
 	cmake --preset dev
 	cmake --build --preset dev
 	run-clang-tidy -quiet -p build/dev 'src/.*'
+
+# docs/messages.tsv, from the program's own tables.
+messages: packages
+	cmake --preset dev
+	cmake --build --preset dev --target messages
 
 format:
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i

@@ -18,14 +18,16 @@ bool MasterAgencies::isAddrCodeOfAdm(std::string_view adm, std::string_view addr
   return holds(addrCodes_, "addr_code", adm, addrCode);
 }
 
-bool MasterAgencies::holds(CodesOfAdm& kept, std::string_view column, std::string_view adm, std::string_view code) {
+bool MasterAgencies::holds(CodesOfAdm& kept, std::string_view column, std::string_view adm,
+                           std::string_view code) {
   if (!kept.known || kept.adm != adm) {
     if (connection_ == nullptr) connection_ = std::make_unique<Connection>(templatePath_);
     // Table and column have one name.
     std::string sql("Select ");
     sql.append(column).append(" From ").append(column).append(" WHERE adm = '").append(adm).append("'");
     std::vector<std::string> codes;
-    for (Recordset rows(sql, *connection_); !rows.atEnd(); rows.MoveNext()) codes.push_back(rows.value(0).value_or(""));
+    for (Recordset rows(sql, *connection_); !rows.atEnd(); rows.MoveNext())
+      codes.push_back(rows.value(0).value_or(""));
     kept = {true, std::string(adm), std::move(codes)};
   }
   return std::any_of(kept.codes.begin(), kept.codes.end(),

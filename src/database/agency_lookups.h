@@ -9,8 +9,9 @@
 
 namespace zamo {
 
-// The template is opened when the first question comes and stays open as long as this lives; what it holds for the
-// administration asked last is kept. A template that is missing or broken throws a RunTimeError at the question.
+// The template is opened when the first question comes and stays open as long as this lives; what it holds
+// for the administration asked last is kept. A template that is missing or broken throws a RunTimeError at
+// the question.
 class MasterAgencies {
  public:
   explicit MasterAgencies(std::string templatePath = masterTemplatePath());

@@ -17,17 +17,21 @@ struct Finalize {
 };
 using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
-bool isBlank(std::string_view text) { return text.find_first_not_of(" \t\r\n;") == std::string_view::npos; }
+bool isBlank(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n;") == std::string_view::npos;
+}
 
 Statement prepareSelect(const std::string& sql, sqlite3* database) {
   sqlite3_stmt* prepared = nullptr;
   const char* tail = nullptr;
-  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) != SQLITE_OK) {
+  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) !=
+      SQLITE_OK) {
     throw engineError(database);
   }
   Statement statement(prepared);
   const bool isSelect = statement != nullptr && sqlite3_column_count(prepared) > 0 &&
-                        equalsIgnoringCase(trimText(sql).substr(0, 6), "SELECT") && sqlite3_stmt_readonly(prepared) != 0;
+                        equalsIgnoringCase(trimText(sql).substr(0, 6), "SELECT") &&
+                        sqlite3_stmt_readonly(prepared) != 0;
   if (!isSelect || !isBlank({tail, static_cast<std::size_t>(sql.c_str() + sql.size() - tail)})) {
     throw RunTimeError{kInvalidArgument, "A recordset takes one SELECT and nothing else"};
   }

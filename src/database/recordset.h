@@ -11,8 +11,8 @@
 
 namespace zamo {
 
-// Opened on SQL text in the code page. Anything but one SELECT is refused, so that values joined into the text can
-// never change data. Every failure is thrown as a RunTimeError.
+// Opened on SQL text in the code page. Anything but one SELECT is refused, so that values joined into the
+// text can never change data. Every failure is thrown as a RunTimeError.
 class Recordset {
  public:
   Recordset(std::string_view sql, Connection& connection);

@@ -109,7 +109,9 @@ constexpr KeyIndex kIndex(storedKeys());
 
 }  // namespace
 
-std::span<const FieldRow> fieldTable() { return kFields; }
+std::span<const FieldRow> fieldTable() {
+  return kFields;
+}
 
 const FieldRow* findField(std::string_view key) {
   const std::size_t row = kIndex.find(key);

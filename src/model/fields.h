@@ -35,15 +35,15 @@ inline constexpr TextMember textAt = {
 enum class StoredAs {
   asItStands,
   upperCase,
-  threeDigits,       // with zeros in front
+  threeDigits,  // with zeros in front
   timeWithoutColon,
-  coordinate,        // cut into the four texts of its CoordinateField
-  joined,            // with ";" behind what is there
-  replaced,          // the last one counts
-  noticeType,        // upper case; settles the class of station and the buffered contour identifiers
-  contourId,         // in the buffer, the contour or the next place of the allotment, by type
-  testPointCount,    // sizes the array of points
-  notRead,           // no key of a notice section stores it
+  coordinate,      // cut into the four texts of its CoordinateField
+  joined,          // with ";" behind what is there
+  replaced,        // the last one counts
+  noticeType,      // upper case; settles the class of station and the buffered contour identifiers
+  contourId,       // in the buffer, the contour or the next place of the allotment, by type
+  testPointCount,  // sizes the array of points
+  notRead,         // no key of a notice section stores it
 };
 
 // The group that a stored value marks as present.
@@ -69,8 +69,10 @@ struct CoordinateField {
 inline constexpr std::array<CoordinateField, 4> kCoordinateFields = {{
     {"t_long", true, &NtcRec::long_deg, &NtcRec::long_min, &NtcRec::long_sec, &NtcRec::long_ew},
     {"t_lat", false, &NtcRec::lat_deg, &NtcRec::lat_min, &NtcRec::lat_sec, &NtcRec::lat_ns},
-    {"t_trg_long", true, &NtcRec::trg_long_deg, &NtcRec::trg_long_min, &NtcRec::trg_long_sec, &NtcRec::trg_long_ew},
-    {"t_trg_lat", false, &NtcRec::trg_lat_deg, &NtcRec::trg_lat_min, &NtcRec::trg_lat_sec, &NtcRec::trg_lat_ns},
+    {"t_trg_long", true, &NtcRec::trg_long_deg, &NtcRec::trg_long_min, &NtcRec::trg_long_sec,
+     &NtcRec::trg_long_ew},
+    {"t_trg_lat", false, &NtcRec::trg_lat_deg, &NtcRec::trg_lat_min, &NtcRec::trg_lat_sec,
+     &NtcRec::trg_lat_ns},
 }};
 
 // All rows, in the order of the record.

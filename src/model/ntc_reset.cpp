@@ -27,22 +27,40 @@ void resetNtcMain(NtcRec& ntc) {
   ntc = std::move(fresh);
 }
 
-void resetAdm(NtcRec& ntc) { ntc.t_adm.clear(); }
+void resetAdm(NtcRec& ntc) {
+  ntc.t_adm.clear();
+}
 
-void resetPoint(OpHoursRec& hours) { hours = {}; }
+void resetPoint(OpHoursRec& hours) {
+  hours = {};
+}
 
-void resetPoint(AzmValueRec& value) { value = {}; }
+void resetPoint(AzmValueRec& value) {
+  value = {};
+}
 
-void resetPoint(PointRec& point) { point = {}; }
+void resetPoint(PointRec& point) {
+  point = {};
+}
 
-void resetCoordList(CoordListRec& coord) { coord = {}; }
+void resetCoordList(CoordListRec& coord) {
+  coord = {};
+}
 
-void resetDigital(DigitalRec& digital) { digital = {}; }
+void resetDigital(DigitalRec& digital) {
+  digital = {};
+}
 
-void resetAllot(AllotRec& allot) { allot = {}; }
+void resetAllot(AllotRec& allot) {
+  allot = {};
+}
 
-void resetContour(ContourRec& contour) { contour = {}; }
+void resetContour(ContourRec& contour) {
+  contour = {};
+}
 
-void resetEightTexts(EightTextsRec& group) { group = {}; }
+void resetEightTexts(EightTextsRec& group) {
+  group = {};
+}
 
 }  // namespace zamo

@@ -7,6 +7,8 @@ constexpr KeyIndex kIndex(kNoticeKeys);
 
 }  // namespace
 
-std::size_t keySlot(std::string_view key) { return kIndex.find(key); }
+std::size_t keySlot(std::string_view key) {
+  return kIndex.find(key);
+}
 
 }  // namespace zamo

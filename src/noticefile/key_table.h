@@ -24,6 +24,8 @@ inline constexpr std::array<std::string_view, 57> kNoticeKeys = {
 // The slot of a key, compared exactly; kNoKey when no slot holds it.
 std::size_t keySlot(std::string_view key);
 
-inline bool isKnownKey(std::string_view key) { return keySlot(key) != kNoKey; }
+inline bool isKnownKey(std::string_view key) {
+  return keySlot(key) != kNoKey;
+}
 
 }  // namespace zamo

@@ -72,7 +72,8 @@ std::string_view LineSource::nextLine() {
     if (carriageReturn_ < next_) carriageReturn_ = find('\r', next_);
     stop = std::min(lineFeed_, carriageReturn_);
     after = std::min(stop + (carriageReturn_ + 1 == lineFeed_ ? 2 : 1), end_);
-    // A byte behind the line end is wanted too: it tells a CR from a CR LF, and whether this was the last line.
+    // A byte behind the line end is wanted too: it tells a CR from a CR LF, and whether this was the last
+    // line.
     if (after < end_ || wholeFileRead_) break;
     fill();
   }

@@ -8,8 +8,8 @@
 
 namespace zamo {
 
-// CR LF, a lone LF and a lone CR each end a line. A file that begins with a UTF-8 byte order mark is taken as UTF-8
-// and its lines are given in the code page. Every failure to open or read is thrown as a RunTimeError.
+// CR LF, a lone LF and a lone CR each end a line. A file that begins with a UTF-8 byte order mark is taken as
+// UTF-8 and its lines are given in the code page. Every failure to open or read is thrown as a RunTimeError.
 class LineSource {
  public:
   explicit LineSource(const std::string& path);
@@ -26,8 +26,8 @@ class LineSource {
   // How many times nextLine was called.
   std::int64_t lineNo() const { return lineNo_; }
 
-  // The next line with its tabs turned into blanks and the blanks at both ends taken off; an empty text at the end.
-  // Valid until the next call.
+  // The next line with its tabs turned into blanks and the blanks at both ends taken off; an empty text at
+  // the end. Valid until the next call.
   std::string_view nextLine();
 
  private:

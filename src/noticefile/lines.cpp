@@ -36,8 +36,8 @@ constexpr std::array<Tag, 11> kTags = {{
 
 const Tag* findTag(std::string_view line) {
   if (!isTagLine(line)) return nullptr;
-  const auto* found =
-      std::find_if(kTags.begin(), kTags.end(), [line](const Tag& tag) { return equalsIgnoringCase(tag.start, line); });
+  const auto* found = std::find_if(kTags.begin(), kTags.end(),
+                                   [line](const Tag& tag) { return equalsIgnoringCase(tag.start, line); });
   return found == kTags.end() ? nullptr : found;
 }
 
@@ -81,9 +81,13 @@ bool parseAzimuthKey(std::string_view key, std::string_view& azimuth) {
   return isNumericText(azimuth);
 }
 
-bool isTopTag(std::string_view line) { return isTagOf(line, TagKind::top); }
+bool isTopTag(std::string_view line) {
+  return isTagOf(line, TagKind::top);
+}
 
-bool isSubTag(std::string_view line) { return isTagOf(line, TagKind::sub); }
+bool isSubTag(std::string_view line) {
+  return isTagOf(line, TagKind::sub);
+}
 
 std::string_view endTagOf(std::string_view tag) {
   const Tag* found = findTag(tag);

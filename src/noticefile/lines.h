@@ -13,22 +13,25 @@ inline constexpr std::string_view kTailTag = "<TAIL>";
 // Turns each tab into one blank, in place.
 void tabsToBlanks(char* first, char* last);
 
-// A key line taken apart. Both views reach into the line, or into `lowered` for a key that wasn't in lower case.
+// A key line taken apart. Both views reach into the line, or into `lowered` for a key that wasn't in lower
+// case.
 struct KeyValue {
   std::string_view key;
   std::string_view value;
   std::string lowered;
 };
 
-// Splits a line as LineSource gives it at its first "=", both sides trimmed. A key that begins with "t" or "T" is
-// made lower case as a whole. False for a line without "=", which leaves `result` as it is.
+// Splits a line as LineSource gives it at its first "=", both sides trimmed. A key that begins with "t" or
+// "T" is made lower case as a whole. False for a line without "=", which leaves `result` as it is.
 bool splitKeyValue(std::string_view line, KeyValue& result);
 
-// Takes the text from the fourth character behind the "@" as the azimuth and gives whether it is numeric. False for
-// a key without "@", which leaves `azimuth` as it is.
+// Takes the text from the fourth character behind the "@" as the azimuth and gives whether it is numeric.
+// False for a key without "@", which leaves `azimuth` as it is.
 bool parseAzimuthKey(std::string_view key, std::string_view& azimuth);
 
-inline bool isTagLine(std::string_view line) { return !line.empty() && line.front() == '<'; }
+inline bool isTagLine(std::string_view line) {
+  return !line.empty() && line.front() == '<';
+}
 
 // <HEAD>, <NOTICE> or <TAIL>, in any case.
 bool isTopTag(std::string_view line);

@@ -7,6 +7,7 @@
 
 #include "model/fields.h"
 #include "platform/coordinates.h"
+#include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
@@ -15,36 +16,37 @@ namespace zamo {
 namespace {
 
 constexpr double kMostTestPoints = 32767;
-constexpr std::string_view kFatal = "FATAL ERROR : \r\n";
 
-bool isTag(std::string_view line, std::string_view tag) { return isTagLine(line) && equalsIgnoringCase(line, tag); }
+// clang-format off
+const Message kDuplicateKey("a key is given twice; %1 is the label of the notice", "FATAL ERROR : \r\n%1 : %2 : Duplicate key\r\n");
+const Message kDuplicateContourId("a t_contour_id is given twice, compared as a number", "FATAL ERROR : \r\n%1 : %2 : Duplicate Contour ID : %3 Value will be ignored\r\n");
+const Message kOneContourId("GA1: more than one t_contour_id before t_notice_type", "FATAL ERROR : \r\n%1 : GA1 can have only ONE t_contour_id \r\n");
+const Message kTooManyValues("<ANT_HGT>, <ANT_DIAGR_H>, <ANT_DIAGR_V>: a 37th value", "FATAL ERROR : \r\n%1 : Cannot notify more than 36 values");
+// clang-format on
+
+bool isTag(std::string_view line, std::string_view tag) {
+  return isTagLine(line) && equalsIgnoringCase(line, tag);
+}
 
 std::string duplicateKey(const SectionReading& reading) {
-  return std::string(kFatal)
-      .append(reading.prefix)
-      .append(" : ")
-      .append(reading.keyValue.key)
-      .append(" : Duplicate key\r\n");
+  return kDuplicateKey.filled({reading.prefix, reading.keyValue.key});
 }
 
 std::string duplicateContourId(const SectionReading& reading) {
-  return std::string(kFatal)
-      .append(reading.prefix)
-      .append(" : ")
-      .append(reading.keyValue.key)
-      .append(" : Duplicate Contour ID : ")
-      .append(reading.keyValue.value)
-      .append(" Value will be ignored\r\n");
+  return kDuplicateContourId.filled({reading.prefix, reading.keyValue.key, reading.keyValue.value});
 }
 
-[[noreturn]] void throwOutOfRange() { throw RunTimeError{kIndexOutOfRange, "Subscript out of range"}; }
+[[noreturn]] void throwOutOfRange() {
+  throw RunTimeError{kIndexOutOfRange, "Subscript out of range"};
+}
 
 // Hands each key line of a section to `onKey`.
 template <typename OnKey>
 void readSection(SectionReading& reading, std::initializer_list<std::string_view> endTags, OnKey onKey) {
   const auto ends = [&reading](std::string_view tag) { return isTag(reading.currentLine, tag); };
   while (!reading.lines.exhausted() && std::none_of(endTags.begin(), endTags.end(), ends)) {
-    if (splitKeyValue(reading.currentLine, reading.keyValue)) onKey(reading.keyValue.key, reading.keyValue.value);
+    if (splitKeyValue(reading.currentLine, reading.keyValue))
+      onKey(reading.keyValue.key, reading.keyValue.value);
     readLine(reading);
   }
 }
@@ -116,7 +118,8 @@ void storeCoordinate(NoticeReading& notice) {
 
 bool holdsNumber(std::span<const std::string> ids, std::string_view value) {
   const double number = leadingNumber(value);
-  return std::any_of(ids.begin(), ids.end(), [number](const std::string& id) { return leadingNumber(id) == number; });
+  return std::any_of(ids.begin(), ids.end(),
+                     [number](const std::string& id) { return leadingNumber(id) == number; });
 }
 
 void addContourIdOfAllotment(NoticeReading& notice, std::string_view value) {
@@ -166,8 +169,7 @@ void settleBufferedContourIds(NoticeReading& notice) {
     ntc.digital.contour.t_contour_id = buffer.front();
     ntc.digital.contour.present = true;
   } else if (buffer.size() > 1) {
-    notice.messages.append(kFatal).append(notice.section.prefix).append(" : ");
-    notice.messages.append("GA1 can have only ONE t_contour_id ").append(kLineEnd);
+    notice.messages += kOneContourId.filled({notice.section.prefix});
   }
   buffer.clear();
 }
@@ -254,8 +256,9 @@ constexpr Subsection kSubsections[] = {
 void readSubsection(NoticeReading& notice) {
   const std::string_view line = notice.section.currentLine;
   if (!isTagLine(line)) return;
-  const auto* found = std::find_if(std::begin(kSubsections), std::end(kSubsections),
-                                   [line](const Subsection& one) { return equalsIgnoringCase(one.tag, line); });
+  const auto* found =
+      std::find_if(std::begin(kSubsections), std::end(kSubsections),
+                   [line](const Subsection& one) { return equalsIgnoringCase(one.tag, line); });
   if (found == std::end(kSubsections)) return;
   readLine(notice.section);
   found->read(notice);
@@ -272,7 +275,7 @@ std::string readAzimuths(SectionReading& reading, AzimuthValues& values, std::st
     std::string_view azimuth;
     if (!parseAzimuthKey(key, azimuth) || !key.starts_with(stem)) return;
     if (index >= values.size()) {
-      messages.append(kFatal).append(reading.prefix).append(" : Cannot notify more than 36 values");
+      messages += kTooManyValues.filled({reading.prefix});
     } else if (!value.empty() && !overwrites && !values[index].value.empty()) {
       messages += duplicateKey(reading);
     } else if (!value.empty()) {

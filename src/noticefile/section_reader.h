@@ -1,5 +1,6 @@
-// The section reader: turns the lines of a section into a record. It takes each value as it stands, so that a wrong
-// one reaches the rules, the database and the screens, and reports only what would lose data: a key given twice.
+// The section reader: turns the lines of a section into a record. It takes each value as it stands, so that a
+// wrong one reaches the rules, the database and the screens, and reports only what would lose data: a key
+// given twice.
 #pragma once
 
 #include <string>
@@ -11,8 +12,8 @@
 
 namespace zamo {
 
-// What the readers of one file share. `currentLine` holds the first line behind the tag when a reader is called and
-// the end tag when it returns, or an empty text at the end of the file, which ends every section.
+// What the readers of one file share. `currentLine` holds the first line behind the tag when a reader is
+// called and the end tag when it returns, or an empty text at the end of the file, which ends every section.
 struct SectionReading {
   LineSource& lines;
   NtcRec& ntc;
@@ -22,10 +23,12 @@ struct SectionReading {
 };
 
 // The next line becomes the current one.
-inline void readLine(SectionReading& reading) { reading.currentLine = reading.lines.nextLine(); }
+inline void readLine(SectionReading& reading) {
+  reading.currentLine = reading.lines.nextLine();
+}
 
-// Each gives the text of its messages. More than the places of a record, and a point before their number is known,
-// is thrown as a RunTimeError.
+// Each gives the text of its messages. More than the places of a record, and a point before their number is
+// known, is thrown as a RunTimeError.
 
 // Stops at </HEAD> in upper case alone. Empty when all was well.
 std::string readHeadSection(SectionReading& reading);

@@ -9,10 +9,32 @@
 #include "noticefile/strict_tables.h"
 #include "platform/coordinates.h"
 #include "platform/dates.h"
+#include "platform/message.h"
 #include "platform/text.h"
 
 namespace zamo {
 namespace {
+
+// clang-format off
+const Message kUndefinedKey("a key that the section doesn't have", " Undefined key. Please check the spelling");
+const Message kAdm("<HEAD>, <COORD>: t_adm is a number or longer than 3", " t_adm : cannot have more than 3 Characters (B)");
+const Message kEmail("<HEAD>: t_email_addr is longer than 50", " t_email_addr : Maximum number of alphanumerical characters is 50");
+const TableMessages kListedEnumerations("<NOTICE>: the value is another one", kEnumerations);
+const TableMessages kListedFreeTexts("<NOTICE>: two blanks in the value, or a value too long", kFreeTexts);
+const TableMessages kListedLengths("<NOTICE>: the value is too long", kLengths);
+const TableMessages kListedNumbers("<NOTICE>: the value isn't in the form of the key", kNumbers);
+const TableMessages kListedPlanEntry("<NOTICE>: t_plan_entry is no digit from 1 to 5", kPlanEntry);
+const TableMessages kListedVariant("<NOTICE>: t_sys_var is too long, or another value", kSystemVariant);
+const TableMessages kListedCoordinates("<NOTICE>: the length, the degrees, the minutes or the seconds are refused", kNoticeCoordinates);
+const TableMessages kListedDates("<NOTICE>: no date from the year 2000 on", kDates);
+const Message kNoType("<NOTICE>: no t_notice_type, and no other error in the notice", " : <NOTICE> started at line : %1 has a  FATAL ERROR t_notice_type is not provided. Cannot proceed further");
+const TableMessages kListedPoint("<POINT>: the length, the degrees, the minutes or the seconds are refused", kPointCoordinates);
+const Message kAzimuthHeight("<ANT_HGT>: the value is no integer", " %1 : Value should be between [-3000, 3000]");
+const Message kAzimuthAttenuation("<ANT_DIAGR_H>, <ANT_DIAGR_V>: the value is no number or longer than 4", " %1 : Value must be numerical and cannot exceed 4 digits");
+const Message kNoCount("<TAIL>: t_num_notices is empty", " t_num_notices : Value must be notified. The number of notices read : %1");
+const Message kCountNoNumber("<TAIL>: t_num_notices is no number", " t_num_notices : Value must be an integer");
+const Message kCountDiffers("<TAIL>: t_num_notices is not the number of notices before it", " t_num_notices : The number of notices notified : %1 and the number of notices read : %2");
+// clang-format on
 
 bool isOneOf(std::string_view value, std::span<const std::string_view> accepted) {
   return std::any_of(accepted.begin(), accepted.end(),
@@ -75,12 +97,14 @@ bool isPartBelow(std::string_view part, int bound, const Yield& yield) {
 
 bool accepts(StrictReading& reading, const CoordinateRule& rule, std::string_view value) {
   const std::size_t longest = rule.isLongitude ? 8 : 7;
-  if (value.size() != longest && value.size() != longest - 2) return refuse(reading, rule.formatMessage, rule.gap);
+  if (value.size() != longest && value.size() != longest - 2)
+    return refuse(reading, rule.formatMessage, rule.gap);
   const std::string_view degrees = rule.isLongitude ? longDeg(value) : latDeg(value);
   const std::string_view minutes = rule.isLongitude ? longMin(value) : latMin(value);
   const std::string_view seconds = rule.isLongitude ? longSec(value) : latSec(value);
   bool good = true;
-  if (!isPartBelow(degrees, rule.degreeBound, reading.yield)) good = refuse(reading, rule.degreeMessage, rule.gap);
+  if (!isPartBelow(degrees, rule.degreeBound, reading.yield))
+    good = refuse(reading, rule.degreeMessage, rule.gap);
   if (!isPartBelow(minutes, 60, reading.yield)) good = refuse(reading, rule.minuteMessage, rule.gap);
   if (!seconds.empty() && !isPartBelow(seconds, 60, reading.yield)) {
     good = refuse(reading, rule.secondMessage, rule.gap);
@@ -98,31 +122,20 @@ bool accepts(StrictReading& reading, const DateRule& rule, std::string_view valu
   return good || refuse(reading, rule.message, Gap::wide);
 }
 
-struct PlanEntryRule {
-  std::string_view key = kPlanEntryKey;
-};
-
-bool accepts(StrictReading& reading, const PlanEntryRule&, std::string_view value) {
+bool accepts(StrictReading& reading, const PlanEntryRule& rule, std::string_view value) {
   const double number = leadingNumber(value);
   return (isNumericText(value) && value.size() <= 1 && number >= 1 && number <= 5) ||
-         refuse(reading, kPlanEntryMessage, Gap::wide);
+         refuse(reading, rule.message, Gap::wide);
 }
 
-struct SystemVariantRule {
-  std::string_view key = kSystemVariantKey;
-};
-
-bool accepts(StrictReading& reading, const SystemVariantRule&, std::string_view value) {
-  if (value.size() >= 3) return refuse(reading, kSystemVariantLength);
+bool accepts(StrictReading& reading, const SystemVariantRule& rule, std::string_view value) {
+  if (value.size() >= 3) return refuse(reading, rule.lengthMessage);
   constexpr std::string_view letters = "ABCDEF";
   constexpr std::string_view digits = "12357";
   const bool good = value.size() == 2 && letters.find(value[0]) != std::string_view::npos &&
                     digits.find(value[1]) != std::string_view::npos;
-  return good || refuse(reading, kSystemVariantValues);
+  return good || refuse(reading, rule.message);
 }
-
-constexpr PlanEntryRule kPlanEntry[] = {{}};
-constexpr SystemVariantRule kSystemVariant[] = {{}};
 
 // A row of any of the tables, together with the test that its table asks for.
 struct Rule {
@@ -163,7 +176,9 @@ static_assert(countRules() == std::size(kEnumerations) + std::size(kFreeTexts) +
                                   std::size(kNumbers) + std::size(kNoticeCoordinates) + std::size(kDates) +
                                   std::size(kPlanEntry) + std::size(kSystemVariant));
 
-bool isTag(std::string_view line, std::string_view tag) { return isTagLine(line) && equalsIgnoringCase(line, tag); }
+bool isTag(std::string_view line, std::string_view tag) {
+  return isTagLine(line) && equalsIgnoringCase(line, tag);
+}
 
 // Hands each key line of a section that has a "t_" key to `onKey`, and then each line to `onLine`.
 template <typename OnKey, typename OnLine>
@@ -187,26 +202,24 @@ bool readSection(StrictReading& reading, std::initializer_list<std::string_view>
 }
 
 bool acceptsAdm(StrictReading& reading, std::string_view value, bool isNumber, Gap gap) {
-  return value.empty() || (!isNumber && value.size() < 4) ||
-         refuse(reading, " t_adm : cannot have more than 3 Characters (B)", gap);
+  return value.empty() || (!isNumber && value.size() < 4) || refuse(reading, kAdm.words(), gap);
 }
 
 // A section of azimuth keys: `stem` and the azimuth. A numeric azimuth behind another stem passes in silence.
 template <typename Accepts>
-bool readAzimuths(StrictReading& reading, std::string_view closingTag, std::string_view stem, Accepts acceptsValue,
-                  std::string_view message) {
+bool readAzimuths(StrictReading& reading, std::string_view closingTag, std::string_view stem,
+                  Accepts acceptsValue, const Message& message) {
   return readSection(reading, {closingTag}, [&](std::string_view key, std::string_view value) {
     std::string_view azimuth;
-    if (!parseAzimuthKey(key, azimuth)) return refuse(reading, kUndefinedKey);
+    if (!parseAzimuthKey(key, azimuth)) return refuse(reading, kUndefinedKey.words());
     if (!key.starts_with(stem) || value.empty() || acceptsValue(value)) return true;
-    return refuse(reading, std::string(" ").append(key).append(message));
+    return refuse(reading, message.filled({key}));
   });
 }
 
 bool readDiagram(StrictReading& reading, std::string_view closingTag) {
   const auto acceptsValue = [](std::string_view value) { return value.size() <= 4 && isNumericText(value); };
-  return readAzimuths(reading, closingTag, "t_attn@azm", acceptsValue,
-                      " : Value must be numerical and cannot exceed 4 digits");
+  return readAzimuths(reading, closingTag, "t_attn@azm", acceptsValue, kAzimuthAttenuation);
 }
 
 struct Subsection {
@@ -238,16 +251,17 @@ bool readSubsection(StrictReading& reading) {
 
 }  // namespace
 
-bool hasKeyPrefix(std::string_view key) { return key.size() >= 2 && lowerChar(key[0]) == 't' && key[1] == '_'; }
+bool hasKeyPrefix(std::string_view key) {
+  return key.size() >= 2 && lowerChar(key[0]) == 't' && key[1] == '_';
+}
 
 bool valReadHead(StrictReading& reading) {
   return readSection(reading, {"</HEAD>"}, [&](std::string_view key, std::string_view value) {
     if (key == "t_adm") return acceptsAdm(reading, value, isNumericText(value), Gap::narrow);
     if (key == "t_email_addr") {
-      return value.size() <= 50 ||
-             refuse(reading, " t_email_addr : Maximum number of alphanumerical characters is 50");
+      return value.size() <= 50 || refuse(reading, kEmail.words());
     }
-    return key == "t_char_set" || key == "t_d_sent" || refuse(reading, kUndefinedKey);
+    return key == "t_char_set" || key == "t_d_sent" || refuse(reading, kUndefinedKey.words());
   });
 }
 
@@ -256,7 +270,7 @@ bool valReadNotice(StrictReading& reading) {
   bool sawNoticeType = false;
   const auto onKey = [&](std::string_view key, std::string_view value) {
     const std::size_t slot = keySlot(key);
-    if (slot == kNoKey) return refuse(reading, kUndefinedKey, Gap::wide);
+    if (slot == kNoKey) return refuse(reading, kUndefinedKey.words(), Gap::wide);
     if (value.empty()) return true;
     const Rule& rule = kRules[slot];
     const bool accepted = rule.row == nullptr || rule.accepts(reading, rule.row, value);
@@ -265,9 +279,7 @@ bool valReadNotice(StrictReading& reading) {
   };
   const bool good = readSection(reading, {"</NOTICE>"}, onKey, [&] { return readSubsection(reading); });
   if (!good || sawNoticeType) return good;
-  reading.report.append(reading.prefix).append(" : <NOTICE> started at line : ").append(std::to_string(startLine));
-  reading.report.append(" has a  FATAL ERROR t_notice_type is not provided. Cannot proceed further");
-  reading.report.append(kLineEnd);
+  reading.report.append(reading.prefix).append(kNoType.filled({std::to_string(startLine)})).append(kLineEnd);
   return false;
 }
 
@@ -276,14 +288,11 @@ bool valReadTail(StrictReading& reading, std::int64_t noticesRead) {
   return readSection(reading, {"</TAIL>"}, [&](std::string_view key, std::string_view value) {
     if (key != "t_num_notices") return true;
     if (value.empty()) {
-      return refuse(reading, " t_num_notices : Value must be notified. The number of notices read : " + read);
+      return refuse(reading, kNoCount.filled({read}));
     }
-    bool good = isNumericText(value) || refuse(reading, " t_num_notices : Value must be an integer");
+    bool good = isNumericText(value) || refuse(reading, kCountNoNumber.words());
     if (leadingNumber(value) != static_cast<double>(noticesRead)) {
-      good = refuse(reading, std::string(" t_num_notices : The number of notices notified : ")
-                                 .append(value)
-                                 .append(" and the number of notices read : ")
-                                 .append(read));
+      good = refuse(reading, kCountDiffers.filled({value, read}));
     }
     return good;
   });
@@ -294,26 +303,30 @@ bool valReadPoint(StrictReading& reading) {
     for (const CoordinateRule& rule : kPointCoordinates) {
       if (key == rule.key) return value.empty() || accepts(reading, rule, value);
     }
-    refuse(reading, kUndefinedKey);
+    refuse(reading, kUndefinedKey.words());
     return true;  // told, and yet the point counts as good
   });
 }
 
 bool valReadCoord(StrictReading& reading) {
-  return readSection(reading, {"</COORDINATION>", "</COORD>"}, [&](std::string_view key, std::string_view value) {
-    if (key != "t_adm") return refuse(reading, kUndefinedKey);
-    return acceptsAdm(reading, value, isAllDigits(value, reading.yield), Gap::wide);
-  });
+  return readSection(reading, {"</COORDINATION>", "</COORD>"},
+                     [&](std::string_view key, std::string_view value) {
+                       if (key != "t_adm") return refuse(reading, kUndefinedKey.words());
+                       return acceptsAdm(reading, value, isAllDigits(value, reading.yield), Gap::wide);
+                     });
 }
 
 bool valReadAntHgt(StrictReading& reading) {
   const auto acceptsValue = [](std::string_view value) { return hasForm(value, NumberForm::integer, {}); };
-  return readAzimuths(reading, "</ANT_HGT>", "t_eff_hgt@azm", acceptsValue,
-                      " : Value should be between [-3000, 3000]");
+  return readAzimuths(reading, "</ANT_HGT>", "t_eff_hgt@azm", acceptsValue, kAzimuthHeight);
 }
 
-bool valReadAntDiagrH(StrictReading& reading) { return readDiagram(reading, "</ANT_DIAGR_H>"); }
+bool valReadAntDiagrH(StrictReading& reading) {
+  return readDiagram(reading, "</ANT_DIAGR_H>");
+}
 
-bool valReadAntDiagrV(StrictReading& reading) { return readDiagram(reading, "</ANT_DIAGR_V>"); }
+bool valReadAntDiagrV(StrictReading& reading) {
+  return readDiagram(reading, "</ANT_DIAGR_V>");
+}
 
 }  // namespace zamo

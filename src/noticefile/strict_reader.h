@@ -1,6 +1,6 @@
 // The strict reader: walks the lines of a notice file section by section and tests every value as text.
-// It never stops at an error: each bad value adds one line to the report, and reading goes on to the closing tag,
-// or to the end of the file, which closes every section.
+// It never stops at an error: each bad value adds one line to the report, and reading goes on to the closing
+// tag, or to the end of the file, which closes every section.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +13,8 @@
 
 namespace zamo {
 
-// What the readers of one file share. `currentLine` holds the first line behind the opening tag when a reader is
-// called and the closing tag when it returns.
+// What the readers of one file share. `currentLine` holds the first line behind the opening tag when a reader
+// is called and the closing tag when it returns.
 struct StrictReading {
   LineSource& lines;
   std::string& report;
@@ -25,10 +25,12 @@ struct StrictReading {
 };
 
 // The next line becomes the current one.
-inline void readLine(StrictReading& reading) { reading.currentLine = reading.lines.nextLine(); }
+inline void readLine(StrictReading& reading) {
+  reading.currentLine = reading.lines.nextLine();
+}
 
-// Each gives whether its section added no error line. There is one exception: an undefined key in a <POINT> adds its
-// line and leaves the result as it stands.
+// Each gives whether its section added no error line. There is one exception: an undefined key in a <POINT>
+// adds its line and leaves the result as it stands.
 bool valReadHead(StrictReading& reading);
 bool valReadNotice(StrictReading& reading);
 bool valReadTail(StrictReading& reading, std::int64_t noticesRead);

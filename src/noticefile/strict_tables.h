@@ -1,6 +1,7 @@
 // What the strict reader accepts in a notice section, as tables. The words are the operator's, to the blank.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string_view>
 
@@ -8,8 +9,6 @@ namespace zamo {
 
 // Wide: one blank more between the line number and the message, which has a blank of its own.
 enum class Gap { narrow, wide };
-
-inline constexpr std::string_view kUndefinedKey = " Undefined key. Please check the spelling";
 
 struct EnumerationRule {
   std::string_view key;
@@ -25,6 +24,7 @@ struct FreeTextRule {
   std::size_t limit = 0;
   std::string_view limitMessage;
   Gap gap = Gap::narrow;
+  std::array<std::string_view, 2> allWords() const { return {doubleBlankMessage, limitMessage}; }
 };
 
 struct LengthRule {
@@ -35,7 +35,7 @@ struct LengthRule {
 
 enum class NumberForm {
   numeric,
-  integer,      // numeric without a "."
+  integer,  // numeric without a "."
   digits,
   notNumeric,
   notDigits,
@@ -58,11 +58,28 @@ struct CoordinateRule {
   std::string_view minuteMessage;
   std::string_view secondMessage;
   Gap gap = Gap::narrow;
+  std::array<std::string_view, 4> allWords() const {
+    return {formatMessage, degreeMessage, minuteMessage, secondMessage};
+  }
 };
 
 struct DateRule {
   std::string_view key;
   std::string_view message;
+};
+
+// One digit from 1 to 5.
+struct PlanEntryRule {
+  std::string_view key;
+  std::string_view message;
+};
+
+// A letter from A to F in upper case, then 1, 2, 3, 5 or 7.
+struct SystemVariantRule {
+  std::string_view key;
+  std::string_view lengthMessage;
+  std::string_view message;
+  std::array<std::string_view, 2> allWords() const { return {lengthMessage, message}; }
 };
 
 inline constexpr std::string_view kNoticeTypes[] = {"GT1", "GS1", "GS2", "GT2", "GA1", "TB5", "TB3", "TB2"};
@@ -133,14 +150,17 @@ inline constexpr NumberRule kNumbers[] = {
     {"t_nb_test_pts",       NumberForm::digits,     2, "Value must be between [3-99]"},
 };
 
-inline constexpr std::string_view kPlanEntryKey = "t_plan_entry";
-inline constexpr std::string_view kPlanEntryMessage =
-    " t_plan_entry : Acceptables values for Assignments (GS1, GT1) are {1, 2, 3, 4, 5} and for Allotments (GS2, GT2) are {3, 4, 5}";
+inline constexpr PlanEntryRule kPlanEntry[] = {
+    {"t_plan_entry", " t_plan_entry : Acceptables values for Assignments (GS1, GT1) are {1, 2, 3, 4, 5} and for Allotments (GS2, GT2) are {3, 4, 5}"},
+};
 
-inline constexpr std::string_view kSystemVariantKey = "t_sys_var";
 inline constexpr std::string_view kSystemVariantLength = " t_sys_var : Maximum number of alphanumerical characters is 2 ";
 inline constexpr std::string_view kSystemVariantValues =
     " t_sys_var : Acceptable values are {A1, A2, A3, A5, A7, B1, B2, B3, B5, B7, C1, C2, C3, C5, C7, D1, D2, D3, D5, D7, E1, E2, E3, E5, E7, F1, F2, F3, F5, F7}";
+
+inline constexpr SystemVariantRule kSystemVariant[] = {
+    {"t_sys_var", kSystemVariantLength, kSystemVariantValues},
+};
 
 // The sets of a notice and of a test point differ in bounds and words on purpose.
 inline constexpr CoordinateRule kNoticeCoordinates[] = {

@@ -8,15 +8,15 @@
 
 namespace zamo {
 
-// What a stage of the pipeline made of a file. `machineFailed` tells that the verdict comes from an error of the
-// machine, which the user has been shown, and not from the file's content.
+// What a stage of the pipeline made of a file. `machineFailed` tells that the verdict comes from an error of
+// the machine, which the user has been shown, and not from the file's content.
 struct StageResult {
   bool passed = false;
   bool machineFailed = false;
 };
 
-// Whether the file holds exactly one <HEAD>, exactly one <TAIL> and at least one <NOTICE>, each section closed.
-// `errText` takes what is wrong, or the count of notices when nothing is.
+// Whether the file holds exactly one <HEAD>, exactly one <TAIL> and at least one <NOTICE>, each section
+// closed. `errText` takes what is wrong, or the count of notices when nothing is.
 StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName);
 
 // The same on lines; `fileName` stands in the messages. Throws RunTimeError.

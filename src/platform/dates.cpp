@@ -5,15 +5,19 @@
 #include <charconv>
 #include <cstdio>
 
+#include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 
 namespace zamo {
 namespace {
 
-constexpr std::string_view kHourFromText = " where the first 2 digits HH should [0,23]\r\n";
-constexpr std::string_view kHourToText = " where the first 2 digits HH should [1,24]\r\n";
-constexpr std::string_view kMinuteText = " where the last 2 digits MM should [0,59]\r\n";
+const Message kHourFrom("a start of operation whose hour is refused",
+                        " where the first 2 digits HH should [0,23]\r\n");
+const Message kHourTo("an end of operation whose hour is refused",
+                      " where the first 2 digits HH should [1,24]\r\n");
+const Message kMinute("a time of operation whose minute is refused",
+                      " where the last 2 digits MM should [0,59]\r\n");
 
 int wholeNumber(std::string_view digits) {
   int value = 0;
@@ -25,21 +29,22 @@ std::optional<Date> dateOf(std::string_view year, std::string_view month, std::s
   const auto shortNumber = [](std::string_view part) { return part.size() == 1 || part.size() == 2; };
   if (year.size() != 4 || !shortNumber(month) || !shortNumber(day)) return {};
   if (!isAllDigits(year) || !isAllDigits(month) || !isAllDigits(day)) return {};
-  const Date date{std::chrono::year(wholeNumber(year)), std::chrono::month(static_cast<unsigned>(wholeNumber(month))),
+  const Date date{std::chrono::year(wholeNumber(year)),
+                  std::chrono::month(static_cast<unsigned>(wholeNumber(month))),
                   std::chrono::day(static_cast<unsigned>(wholeNumber(day)))};
   if (!date.ok() || date.year() < std::chrono::year(1)) return {};
   return date;
 }
 
-bool checkHour(std::string_view hhmm, int firstHour, int lastHour, int lowest, int highest, std::string_view hourText,
-               std::string& message) {
+bool checkHour(std::string_view hhmm, int firstHour, int lastHour, int lowest, int highest,
+               const Message& hourMessage, std::string& message) {
   const double hour = leadingNumber(characters(hhmm, 1, 2));
   const double minute = leadingNumber(characters(hhmm, 3, 4));
   const double value = leadingNumber(hhmm);
   const bool hourGood = hour >= firstHour && hour <= lastHour;
   const bool minuteGood = minute >= 0 && minute <= 59;
-  if (!hourGood) message += hourText;
-  if (!minuteGood) message += kMinuteText;
+  if (!hourGood) message += hourMessage.words();
+  if (!minuteGood) message += kMinute.words();
   return hourGood && minuteGood && value >= lowest && value <= highest;
 }
 
@@ -69,7 +74,8 @@ std::string timeText(const DateTime& moment) {
 }
 
 std::string timeStamp(const DateTime& moment) {
-  return std::to_string(moment.hour) + ":" + std::to_string(moment.minute) + ":" + std::to_string(moment.second);
+  return std::to_string(moment.hour) + ":" + std::to_string(moment.minute) + ":" +
+         std::to_string(moment.second);
 }
 
 Date addMonths(const Date& date, int months) {
@@ -77,7 +83,9 @@ Date addMonths(const Date& date, int months) {
   return later.ok() ? later : Date(later.year() / later.month() / std::chrono::last);
 }
 
-std::string getDateSeparator() { return "-"; }
+std::string getDateSeparator() {
+  return "-";
+}
 
 std::string normalizeDate(std::string_view text) {
   std::string slashed(text);
@@ -99,20 +107,28 @@ void splitDate(std::string_view text, std::string& day, std::string& month, std:
   year = text.substr(second + 1);
 }
 
-bool isValidDay(int day) { return day >= 1 && day <= 31; }
+bool isValidDay(int day) {
+  return day >= 1 && day <= 31;
+}
 
-bool isValidMonth(int month) { return month >= 1 && month <= 12; }
+bool isValidMonth(int month) {
+  return month >= 1 && month <= 12;
+}
 
-bool isValidYear(int year, int presentYear) { return year >= presentYear - 2 && year <= presentYear + 1; }
+bool isValidYear(int year, int presentYear) {
+  return year >= presentYear - 2 && year <= presentYear + 1;
+}
 
-bool isYear2000OrLater(int year) { return year >= 2000; }
+bool isYear2000OrLater(int year) {
+  return year >= 2000;
+}
 
 bool checkHourFrom(std::string_view hhmm, std::string& message) {
-  return checkHour(hhmm, 0, 23, 0, 2359, kHourFromText, message);
+  return checkHour(hhmm, 0, 23, 0, 2359, kHourFrom, message);
 }
 
 bool checkHourTo(std::string_view hhmm, std::string& message) {
-  return checkHour(hhmm, 1, 24, 1, 2400, kHourToText, message);
+  return checkHour(hhmm, 1, 24, 1, 2400, kHourTo, message);
 }
 
 }  // namespace zamo

@@ -17,8 +17,8 @@ struct DateTime {
   int second = 0;
 };
 
-// Reads three numbers joined by one and the same of "-", "/", ".": year first when it has four digits, year last
-// otherwise; day and month have one or two digits. Nothing when that isn't a day of the calendar.
+// Reads three numbers joined by one and the same of "-", "/", ".": year first when it has four digits, year
+// last otherwise; day and month have one or two digits. Nothing when that isn't a day of the calendar.
 std::optional<Date> parseDate(std::string_view text);
 
 // The system's short date, YYYY-MM-DD.
@@ -47,8 +47,8 @@ bool isValidMonth(int month);
 bool isValidYear(int year, int presentYear);
 bool isYear2000OrLater(int year);
 
-// Whether HHMM is a time at which operation can start (0000 to 2359) or stop (0001 to 2400). A refused hour or
-// minute is told in `message`, which is left alone otherwise.
+// Whether HHMM is a time at which operation can start (0000 to 2359) or stop (0001 to 2400). A refused hour
+// or minute is told in `message`, which is left alone otherwise.
 bool checkHourFrom(std::string_view hhmm, std::string& message);
 bool checkHourTo(std::string_view hhmm, std::string& message);
 

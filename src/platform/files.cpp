@@ -17,7 +17,8 @@ namespace {
 
 class OpenFile {
  public:
-  OpenFile(std::string path, int flags) : path_(std::move(path)), descriptor_(::open(path_.c_str(), flags, 0666)) {
+  OpenFile(std::string path, int flags)
+      : path_(std::move(path)), descriptor_(::open(path_.c_str(), flags, 0666)) {
     if (descriptor_ < 0) throw fileError(errno, path_);
   }
   OpenFile(const OpenFile&) = delete;
@@ -73,7 +74,9 @@ void appendToFile(const std::string& path, std::string_view content) {
   file.write(content);
 }
 
-std::string baseOf(std::string_view path) { return std::string(path.substr(0, path.size() < 4 ? 0 : path.size() - 4)); }
+std::string baseOf(std::string_view path) {
+  return std::string(path.substr(0, path.size() < 4 ? 0 : path.size() - 4));
+}
 
 std::string executableFolder() {
   std::error_code error;

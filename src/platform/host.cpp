@@ -2,7 +2,15 @@
 
 #include <algorithm>
 
+#include "platform/message.h"
+
 namespace zamo {
+namespace {
+
+const Message kFailure("box, titled with the operation: a failure of the machine, with its number and text",
+                       "Erreur %1:%2");
+
+}  // namespace
 
 std::string getLogonName(const Host& host) {
   std::string name = host.systemLogonName().substr(0, 8);
@@ -12,8 +20,7 @@ std::string getLogonName(const Host& host) {
 
 void showRunTimeError(const Host& host, int number, std::string_view title, std::string_view description) {
   if (number == 0) return;
-  const std::string text = "Erreur " + std::to_string(number) + ":" + std::string(description);
-  host.showBox({text, std::string(title), BoxIcon::none});
+  host.showBox({kFailure.filled({std::to_string(number), description}), std::string(title), BoxIcon::none});
 }
 
 }  // namespace zamo

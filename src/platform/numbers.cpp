@@ -15,7 +15,9 @@ constexpr std::size_t kLongestExponent = 20;
 
 double valueOf(std::string_view number);
 
-constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 std::size_t digitsFrom(std::string_view text, std::size_t at) {
   while (at < text.size() && isDigit(text[at])) ++at;
@@ -43,8 +45,8 @@ std::size_t numberLength(std::string_view text) {
   return at;
 }
 
-// Whether a number that is no double lies beyond 1, and not between it and 0: by the place of its first digit that
-// isn't 0.
+// Whether a number that is no double lies beyond 1, and not between it and 0: by the place of its first digit
+// that isn't 0.
 bool isBeyondOne(std::string_view number) {
   const std::size_t exponentAt = std::min(number.find_first_of("eE"), number.size());
   const std::string_view digits = number.substr(0, exponentAt);
@@ -92,7 +94,8 @@ bool isAllDigits(std::string_view text, const Yield& yield) {
 
 std::string numberText(double value) {
   std::array<char, 400> buffer;
-  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+  const auto result =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
   return {buffer.data(), result.ptr};
 }
 

@@ -14,8 +14,8 @@ using Yield = std::function<void()>;
 // exponent, optional blanks, and nothing else.
 bool isNumericText(std::string_view text);
 
-// The value of the longest head of `text` that is a number in the form of isNumericText, blanks and tabs being
-// passed over wherever they stand; 0 when there is none, infinity when it is beyond a double.
+// The value of the longest head of `text` that is a number in the form of isNumericText, blanks and tabs
+// being passed over wherever they stand; 0 when there is none, infinity when it is beyond a double.
 double leadingNumber(std::string_view text);
 
 // True when every character is 0 to 9, so for an empty text too. Yields after each character.

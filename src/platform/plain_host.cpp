@@ -52,7 +52,8 @@ DateTime systemNow() {
   const std::time_t seconds = std::time(nullptr);
   std::tm local{};
   ::localtime_r(&seconds, &local);
-  const Date date{std::chrono::year(local.tm_year + 1900), std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+  const Date date{std::chrono::year(local.tm_year + 1900),
+                  std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
                   std::chrono::day(static_cast<unsigned>(local.tm_mday))};
   return {date, local.tm_hour, local.tm_min, local.tm_sec};
 }

@@ -5,8 +5,8 @@
 
 namespace zamo {
 
-// Boxes and status texts are lines on standard error, in UTF-8. A question gets `answer`. There is no setting and
-// no text viewer to start: the caller names the files that are left.
+// Boxes and status texts are lines on standard error, in UTF-8. A question gets `answer`. There is no setting
+// and no text viewer to start: the caller names the files that are left.
 Host makePlainHost(bool answer);
 
 // The present date and time of this machine.

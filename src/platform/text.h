@@ -36,8 +36,12 @@ constexpr CaseTables makeCaseTables() {
 inline constexpr CaseTables kCaseTables = makeCaseTables();
 
 // The letter in the other case; every other character as it is.
-inline char lowerChar(char c) { return kCaseTables.lower[static_cast<unsigned char>(c)]; }
-inline char upperChar(char c) { return kCaseTables.upper[static_cast<unsigned char>(c)]; }
+inline char lowerChar(char c) {
+  return kCaseTables.lower[static_cast<unsigned char>(c)];
+}
+inline char upperChar(char c) {
+  return kCaseTables.upper[static_cast<unsigned char>(c)];
+}
 
 std::string lowerText(std::string_view text);
 std::string upperText(std::string_view text);

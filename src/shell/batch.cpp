@@ -57,8 +57,10 @@ int runBatch(int argc, const char* const* argv) {
 
   std::vector<std::string> files;
   int level = kCompleteWithoutGeo;
-  CLI::App* checking = app.add_subcommand("check", "Structure check, basic validation and, by level, complete validation");
-  checking->add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks")
+  CLI::App* checking =
+      app.add_subcommand("check", "Structure check, basic validation and, by level, complete validation");
+  checking
+      ->add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks")
       ->check(CLI::Range(kBasic, kCompleteWithoutGeo))
       ->capture_default_str();
   checking->add_option("FILE", files, "Notice files")->required();

@@ -1,3 +1,5 @@
 #include "shell/batch.h"
 
-int main(int argc, char** argv) { return zamo::runBatch(argc, argv); }
+int main(int argc, char** argv) {
+  return zamo::runBatch(argc, argv);
+}

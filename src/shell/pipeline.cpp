@@ -6,6 +6,7 @@
 #include "noticefile/structure_check.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "platform/message.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 #include "validation/basic_validation.h"
@@ -14,9 +15,26 @@
 namespace zamo {
 namespace {
 
-void showStatus(Shell& shell, std::string_view text) {
+// clang-format off
+const Message kChecking("status: the structure check begins", "Checking the File format. Please be patient....");
+const Message kFormatHasErrors("status: the structure check failed", "File format has errors. Please correct and re-validate to proceed");
+const Message kBasicRuns("status: basic validation begins", "Basic validation is running. Please be patient....");
+const Message kBasicHasErrors("status: basic validation failed", "Basic validation has errors. Please correct and re-validate to proceed");
+const Message kReportVersion("report: first line after a failed basic validation", "The input file has been validated with  LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006");
+const Message kReportStamp("report: second line after a failed basic validation, with date, time and logon name", "On %1 -  %2 by %3");
+const Message kReportBasic("report: heading of the findings of basic validation", "Basic Validation error(s)");
+const Message kReportComplete("report: first line after a failed complete validation", "Basic Validation OK");
+const Message kCompleteRuns("status: complete validation begins on level 2", "Complete validation without geo coordinates is running. Please be patient....");
+const Message kCompleteHasErrors("status: complete validation failed on level 2", "Complete validation without geo coordinates has error(s).");
+const Message kReportWithoutGeo("report: second line after a failed complete validation on level 2", "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP");
+const Message kReportFallback("box \"Information\": no text viewer for the outcome report", "The validation report cannot be shown, but is available on ");
+const Message kNoViewerForReport("box \"Information\": no text viewer for a report; the second part tells which", "Cannot find Notepad.exe. %1%2");
+const Message kNoViewerForInput("box \"Information\": no text viewer for the input file", "Cannot find Notepad.exe. Unable to show the input file");
+// clang-format on
+
+void showStatus(Shell& shell, const Message& status) {
   shell.draw(shell.screen);
-  shell.host.setStatus(text);
+  shell.host.setStatus(status.words());
   shell.host.repaint();
 }
 
@@ -39,32 +57,28 @@ void writeReport(const std::string& path, std::initializer_list<std::string_view
 
 std::string reportStampLine(const Host& host) {
   const DateTime now = host.now();
-  return "On " + shortDateText(now.date) + " -  " + timeText(now) + " by " + getLogonName(host);
+  return kReportStamp.filled({shortDateText(now.date), timeText(now), getLogonName(host)});
 }
 
 struct FailedStage {
   Stage stage;
-  std::string_view status;
+  const Message& status;
 };
 
-// clang-format off
-constexpr FailedStage kFormatErrors = {Stage::structure, "File format has errors. Please correct and re-validate to proceed"};
-constexpr FailedStage kBasicErrors = {Stage::basic, "Basic validation has errors. Please correct and re-validate to proceed"};
+const FailedStage kFormatErrors = {Stage::structure, kFormatHasErrors};
+const FailedStage kBasicErrors = {Stage::basic, kBasicHasErrors};
 
 // What differs between complete validation without and with geographic checks.
 struct CompleteLevel {
   bool withGeo;
-  std::string_view status;
+  const Message& status;
   FailedStage errors;
-  std::string_view reportLine;
+  const Message& reportLine;
   bool blankLine;  // between the report line and the text
 };
 
-constexpr CompleteLevel kWithoutGeo = {
-    false, "Complete validation without geo coordinates is running. Please be patient....",
-    {Stage::complete, "Complete validation without geo coordinates has error(s)."},
-    "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP", false};
-// clang-format on
+const CompleteLevel kWithoutGeo = {
+    false, kCompleteRuns, {Stage::complete, kCompleteHasErrors}, kReportWithoutGeo, false};
 
 void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, const StageResult& result,
                  std::initializer_list<std::string_view> reportItems) {
@@ -75,7 +89,7 @@ void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, cons
   const std::string report = outcomeReportPath(shell.run.NtcFileName);
   writeReport(report, reportItems);
   verdict.report = report;
-  showReportInNotepad(shell.host, report, kReportFallback);
+  showReportInNotepad(shell.host, report, kReportFallback.words());
 }
 
 class Hourglass {
@@ -90,8 +104,11 @@ class Hourglass {
 };
 
 AgencyLookups lookupsOf(MasterAgencies& agencies) {
-  return {[&agencies](std::string_view adm, std::string_view code) { return agencies.isOpAgcyOfAdm(adm, code); },
-          [&agencies](std::string_view adm, std::string_view code) { return agencies.isAddrCodeOfAdm(adm, code); }};
+  return {
+      [&agencies](std::string_view adm, std::string_view code) { return agencies.isOpAgcyOfAdm(adm, code); },
+      [&agencies](std::string_view adm, std::string_view code) {
+        return agencies.isAddrCodeOfAdm(adm, code);
+      }};
 }
 
 void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& level) {
@@ -109,9 +126,11 @@ void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& lev
     showValidationButtons(shell, false);
     shell.draw(shell.screen);
   } else if (level.blankLine) {
-    tellFailure(shell, verdict, level.errors, complete, {"Basic Validation OK", level.reportLine, " ", errText});
+    tellFailure(shell, verdict, level.errors, complete,
+                {kReportComplete.words(), level.reportLine.words(), " ", errText});
   } else {
-    tellFailure(shell, verdict, level.errors, complete, {"Basic Validation OK", level.reportLine, errText});
+    tellFailure(shell, verdict, level.errors, complete,
+                {kReportComplete.words(), level.reportLine.words(), errText});
   }
 }
 
@@ -132,8 +151,7 @@ void ButtonReVal(Shell& shell) {
 
 void ButtonViewFile(const Shell& shell) {
   if (shell.host.startTextViewer(shell.run.NtcFileName)) return;
-  shell.host.showBox(
-      {"Cannot find Notepad.exe. Unable to show the input file", "Information", BoxIcon::information});
+  shell.host.showBox({kNoViewerForInput.filled({}), "Information", BoxIcon::information});
 }
 
 bool chooseNoticeFile(Shell& shell) {
@@ -142,8 +160,8 @@ bool chooseNoticeFile(Shell& shell) {
   disableQueryMenus(shell);
   shell.screen.statusVisible = false;
   shell.draw(shell.screen);
-  const std::optional<std::string> chosen = shell.host.openFile(
-      {shell.run.WorkDir, "Text Files (*.txt)|*.txt|Updated Files (*.upd)|*.upd"});
+  const std::optional<std::string> chosen =
+      shell.host.openFile({shell.run.WorkDir, "Text Files (*.txt)|*.txt|Updated Files (*.upd)|*.upd"});
   if (!chosen || chosen->empty()) {
     shell.host.setHourglass(false);
     return false;
@@ -164,7 +182,7 @@ bool chooseNoticeFile(Shell& shell) {
 
 void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   shell.screen.gridVisible = false;
-  showStatus(shell, "Checking the File format. Please be patient....");
+  showStatus(shell, kChecking);
   std::string errText;
   StageResult structure;
   {
@@ -177,7 +195,7 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   }
 
   errText.clear();
-  showStatus(shell, "Basic validation is running. Please be patient....");
+  showStatus(shell, kBasicRuns);
   std::int64_t noticesRead = 0;
   StageResult basic;
   {
@@ -186,9 +204,9 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   }
   if (!basic.passed) {
     disableQueryMenus(shell);
-    const std::string program = std::string("The input file has been validated with ").append(kReportVersion);
-    return tellFailure(shell, verdict, kBasicErrors, basic,
-                       {program, reportStampLine(shell.host), " ", "Basic Validation error(s)", errText});
+    return tellFailure(
+        shell, verdict, kBasicErrors, basic,
+        {kReportVersion.words(), reportStampLine(shell.host), " ", kReportBasic.words(), errText});
   }
   shell.screen.queryEnabled = true;
   shell.screen.txtDbEnabled = true;
@@ -196,7 +214,9 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   shell.draw(shell.screen);
 }
 
-void completeValidationNoGeo(Shell& shell, Verdict& verdict) { validateCompletely(shell, verdict, kWithoutGeo); }
+void completeValidationNoGeo(Shell& shell, Verdict& verdict) {
+  validateCompletely(shell, verdict, kWithoutGeo);
+}
 
 Verdict judgeFile(Shell& shell) {
   Verdict verdict;
@@ -216,10 +236,12 @@ Verdict judgeFile(Shell& shell) {
 
 void showReportInNotepad(const Host& host, const std::string& path, std::string_view messageHead) {
   if (host.startTextViewer(path)) return;
-  host.showBox({std::string("Cannot find Notepad.exe. ").append(messageHead).append(textFromUtf8(path)), "Information",
-                BoxIcon::information});
+  host.showBox(
+      {kNoViewerForReport.filled({messageHead, textFromUtf8(path)}), "Information", BoxIcon::information});
 }
 
-std::string outcomeReportPath(std::string_view ntcFileName) { return baseOf(ntcFileName) + "_val_outcome.txt"; }
+std::string outcomeReportPath(std::string_view ntcFileName) {
+  return baseOf(ntcFileName) + "_val_outcome.txt";
+}
 
 }  // namespace zamo

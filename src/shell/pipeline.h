@@ -7,9 +7,6 @@
 
 namespace zamo {
 
-inline constexpr std::string_view kReportVersion = " LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006";
-inline constexpr std::string_view kReportFallback = "The validation report cannot be shown, but is available on ";
-
 enum class Stage { none, structure, basic, complete };
 
 // What the checks made of a file.
@@ -32,12 +29,12 @@ void ButtonViewFile(const Shell& shell);
 // Lets the user choose a notice file and tests the master template. False on Cancel and with an old template.
 bool chooseNoticeFile(Shell& shell);
 
-// Structure check and basic validation of NtcFileName, with their report, statuses and buttons. A report that can't
-// be written throws RunTimeError, and `verdict` holds what was known by then.
+// Structure check and basic validation of NtcFileName, with their report, statuses and buttons. A report that
+// can't be written throws RunTimeError, and `verdict` holds what was known by then.
 void checkFormatAndBasic(Shell& shell, Verdict& verdict);
 
-// Complete validation of NtcFileName, with its report, statuses and buttons. What it finds stops no run. A report
-// that can't be written throws RunTimeError, and `verdict` holds what was known by then.
+// Complete validation of NtcFileName, with its report, statuses and buttons. What it finds stops no run. A
+// report that can't be written throws RunTimeError, and `verdict` holds what was known by then.
 void completeValidationNoGeo(Shell& shell, Verdict& verdict);
 
 // The verdict on NtcFileName at the level of the run, with a box for what the stages throw.

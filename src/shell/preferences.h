@@ -5,8 +5,8 @@
 
 namespace zamo {
 
-// Tells the present working directory, asks whether to change it and stores what was chosen. Cancelling the choice
-// stores what the run has.
+// Tells the present working directory, asks whether to change it and stores what was chosen. Cancelling the
+// choice stores what the run has.
 void mnuPrefDir(Shell& shell);
 
 }  // namespace zamo

@@ -35,7 +35,8 @@ void writeRunLog(const Shell& shell, std::string_view textOne, std::string_view 
   line.append(shortDateText(shell.host.now().date)).append(";");
   line.append(shell.run.fileTime).append("-").append(shell.run.startTime).append(kLineEnd);
   appendLine(places.localFile, line, logonName);
-  if (logonName != kLocalOnlyUser && shared) appendLine(places.sharedFolder + "LMZ_Pro_Log.csv", line, logonName);
+  if (logonName != kLocalOnlyUser && shared)
+    appendLine(places.sharedFolder + "LMZ_Pro_Log.csv", line, logonName);
 }
 
 }  // namespace zamo

@@ -60,7 +60,8 @@ struct MainScreen {
   bool operator==(const MainScreen&) const = default;
 };
 
-// One run of the program: the host, the state, and the screen, which `draw` brings to the window, if there is one.
+// One run of the program: the host, the state, and the screen, which `draw` brings to the window, if there is
+// one.
 struct Shell {
   Host host;
   RunState run;

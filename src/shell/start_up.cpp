@@ -1,18 +1,21 @@
 #include "shell/start_up.h"
 
 #include "platform/files.h"
+#include "platform/message.h"
 
 namespace zamo {
 namespace {
 
+const Message kNoMap("box \"File Missing\" at start: the map's data file isn't there",
+                     "The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP");
+const Message kNoMapData("box at start: the map's data file can't be used", "Can't find GZMP data files");
+
 void openMap(Shell& shell, const MapOpening& map) {
   if (!fileExists(map.dataFile, shell.host.yield)) {
-    shell.host.showBox(
-        {"The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP", "File Missing",
-         BoxIcon::information});
+    shell.host.showBox({kNoMap.filled({}), "File Missing", BoxIcon::information});
     shell.screen.openTxtEnabled = false;
   } else if (map.open() == -1) {
-    shell.host.showBox({"Can't find GZMP data files", "", BoxIcon::none});
+    shell.host.showBox({kNoMapData.filled({}), "", BoxIcon::none});
     shell.screen.openTxtEnabled = false;
   }
 }

@@ -14,11 +14,12 @@ inline constexpr std::string_view kWorkDirSetting = "workDir";
 // How the world map is opened.
 struct MapOpening {
   std::string dataFile;
-  std::function<int()> open;  // the library's three opening calls; gives the unit number, -1 without data files
+  std::function<int()>
+      open;  // the library's three opening calls; gives the unit number, -1 without data files
 };
 
-// Sets the controls, reads the working directory and the logon name and opens the map. A map that is missing or
-// can't be opened disables the text commands and leaves all others. Without `map` that step is left out.
+// Sets the controls, reads the working directory and the logon name and opens the map. A map that is missing
+// or can't be opened disables the text commands and leaves all others. Without `map` that step is left out.
 void startUp(Shell& shell, const std::optional<MapOpening>& map);
 
 }  // namespace zamo

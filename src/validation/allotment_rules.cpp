@@ -10,8 +10,21 @@
 namespace zamo {
 namespace {
 
+// clang-format off
+const Message kTwoAreas("GT2, GS2: t_geo_area and t_nb_sub_areas are given", " If t_geo_area is provided then t_nb_sub_areas should not be given");
+const Message kNoArea("GT2, GS2: t_geo_area and t_nb_sub_areas are empty", " Either t_geo_area or t_nb_sub_areas and t_contour_id(s) should be given");
+const Message kFragment("GT2, GS2: t_fragment is another value", " t_fragment : Acceptable value for allotments are {KV19D}");
+const Message kSubAreas("GT2, GS2: t_nb_sub_areas is outside the range", " t_nb_sub_area : Value should be between [1, 9]");
+const Message kSubAreasDiffer("GT2, GS2: t_nb_sub_areas is not the number of t_contour_id", " t_nb_sub_area and the number of t_contour_id notified, do not match");
+const Message kNoTargetOfAdd("GT2, GS2, ADD: t_trg_adm_ref_id is given", " : t_trg_adm_ref_id should not be notified for a %1; t_trg_adm_ref_id is used as the identifier of the target");
+const Message kPointMissing("GA1: a test point is missing, a line for each", "All the coordinates of the test points are mandatory");
+const Message kNoPublication("GA1: t_is_pub_req is given", " : t_is_pub_req should not be notified under Art 5");
+// clang-format on
+
 // The number of test points as a notice tells it, 0 for none.
-double notifiedPoints(const NtcRec& ntc) { return leadingNumber(ntc.digital.contour.t_nb_test_pts); }
+double notifiedPoints(const NtcRec& ntc) {
+  return leadingNumber(ntc.digital.contour.t_nb_test_pts);
+}
 
 // The points present among those that the number of test points counts.
 int countNotifiedPointsPresent(const NtcRec& ntc) {
@@ -127,15 +140,23 @@ constexpr PlanEntryRow kPlanEntries[] = {
     {"4", true,  "For t_plan_entry = 4, t_sfn_id MUST be provided"},
     {"5", false, "For t_plan_entry = 5, t_sfn_id MUST be NOT be provided"},
 };
+
+const TableMessages kListedMandatory("GT2, GS2: the field is empty", kMandatory);
+const TableMessages kListedPlanEntries("GT2, GS2: t_sfn_id doesn't fit the plan entry", kPlanEntries);
+const TableMessages kListedPlanning("GT2, GS2: the field is empty", kMandatoryPlanning);
+const TableMessages kListedTelevision("GT2: the field is empty", kMandatoryForTelevision);
+const TableMessages kListedAbsent("GT2, GS2: the field is given; the type follows", kAbsent);
+const TableMessages kListedPoints("GT2, GS2: t_nb_test_pts is given, a line for each point counted; the type follows", kAbsentTestPoints);
+const TableMessages kListedFurther("GT2, GS2: the field is given; the type follows", kFurtherAbsent);
+const TableMessages kListedContour("GA1: the field is empty", kMandatoryForContour);
+const TableMessages kListedAbsentForContour("GA1: the field is given, a line for each; the type follows", kAbsentForContour);
 // clang-format on
 
 void checkArea(RuleReport& report, const NtcRec& ntc) {
   const bool area = !ntc.digital.allot.t_geo_area.empty();
   const bool subAreas = !ntc.digital.allot.t_nb_sub_areas.empty();
-  if (area && subAreas) report.fatal(" If t_geo_area is provided then t_nb_sub_areas should not be given");
-  if (!area && !subAreas) {
-    report.fatal(" Either t_geo_area or t_nb_sub_areas and t_contour_id(s) should be given");
-  }
+  if (area && subAreas) report.fatal(kTwoAreas);
+  if (!area && !subAreas) report.fatal(kNoArea);
 }
 
 }  // namespace
@@ -143,14 +164,14 @@ void checkArea(RuleReport& report, const NtcRec& ntc) {
 bool checkAllotValues(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   if (!ntc.t_fragment.empty() && !isFragment(ntc, "KV19D")) {
-    report.fatal(" t_fragment : Acceptable value for allotments are {KV19D}");
+    report.fatal(kFragment);
   }
   const std::string& subAreas = ntc.digital.allot.t_nb_sub_areas;
   if (!subAreas.empty()) {
     if (!isWithin(subAreas, 1, 9)) {
-      report.fatal(" t_nb_sub_area : Value should be between [1, 9]");
+      report.fatal(kSubAreas);
     } else if (leadingNumber(subAreas) != countContourIds(ntc.digital.allot)) {
-      report.fatal(" t_nb_sub_area and the number of t_contour_id notified, do not match");
+      report.fatal(kSubAreasDiffer);
     }
   }
   return report.good;
@@ -160,13 +181,12 @@ bool checkAllotMandatory(const NtcRec& ntc, std::string& errs, std::string_view 
   RuleReport report{errs, label};
   demand(report, ntc, kMandatory);
   std::string msg;
-  if (checkPlanEntryAllot(ntc.t_plan_entry, ntc.digital.t_sfn_id, msg)) report.fatal(msg);
+  if (checkPlanEntryAllot(ntc.t_plan_entry, ntc.digital.t_sfn_id, msg)) report.fatalRow(msg);
   checkArea(report, ntc);
   demand(report, ntc, kMandatoryPlanning);
   if (isType(ntc, "GT2")) demand(report, ntc, kMandatoryForTelevision);
   if (isAction(ntc, "ADD") && !ntc.t_trg_adm_ref_id.empty()) {
-    report.fatal(" : t_trg_adm_ref_id should not be notified for a " + ntc.t_action +
-                 "; t_trg_adm_ref_id is used as the identifier of the target");
+    report.fatal(kNoTargetOfAdd, {ntc.t_action});
   }
   forbid(report, ntc, kAbsent, ntc.t_notice_type);
   if (!ntc.digital.contour.t_nb_test_pts.empty()) forbid(report, ntc, kAbsentTestPoints, ntc.t_notice_type);
@@ -180,10 +200,10 @@ bool checkContourMandatory(const NtcRec& ntc, std::string& errs, std::string_vie
   const auto& points = ntc.digital.contour.points;
   for (std::size_t i = 0; static_cast<double>(i) < notifiedPoints(ntc); ++i) {
     if (i >= points.size()) throw RunTimeError{kIndexOutOfRange, "Subscript out of range"};
-    if (!points[i].present) report.fatal("All the coordinates of the test points are mandatory");
+    if (!points[i].present) report.fatal(kPointMissing);
   }
   forbid(report, ntc, kAbsentForContour, ntc.t_notice_type);
-  if (!ntc.t_is_pub_req.empty()) report.fatal(" : t_is_pub_req should not be notified under Art 5");
+  if (!ntc.t_is_pub_req.empty()) report.fatal(kNoPublication);
   return report.good;
 }
 

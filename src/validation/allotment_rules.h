@@ -12,8 +12,8 @@ bool checkAllotValues(const NtcRec& ntc, std::string& errs, std::string_view lab
 bool checkAllotMandatory(const NtcRec& ntc, std::string& errs, std::string_view label);
 bool checkContourMandatory(const NtcRec& ntc, std::string& errs, std::string_view label);
 
-// Whether something is wrong between the plan entry of an allotment and its SFN identifier. The finding goes into
-// `msg`, with a line end.
+// Whether something is wrong between the plan entry of an allotment and its SFN identifier. The finding goes
+// into `msg`, with a line end.
 bool checkPlanEntryAllot(std::string_view planEntry, std::string_view sfnId, std::string& msg);
 
 }  // namespace zamo

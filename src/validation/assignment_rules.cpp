@@ -16,9 +16,55 @@ constexpr double kHighestPower = 53;
 constexpr double kHighestAttenuation = 40;
 constexpr double kHighestEffectiveHeight = 3000;
 
-bool isFilled(const AzmValueRec& one) { return !one.azm.empty() && !one.value.empty(); }
+// clang-format off
+const Message kFragment("GT1, GS1: t_fragment is another value", " t_fragment : Acceptable value for assignments are {KV19D, NTFD_PZ}");
+const Message kPowerHTooHigh("GT1, GS1: t_erp_h_dbw is above 53", " t_erp_h_dbw : Value should be <= 53.0 (8BH)");
+const Message kPowerVTooHigh("GT1, GS1: t_erp_v_dbw is above 53", " t_erp_v_dbw : Value should be <= 53.0 (8BV)");
+const Message kPolarization("GT1, GS1: t_polar is U", " t_polar : For assignments acceptable values are {V, H, M} (9D)");
+const Message kCallSign("GT1, GS1: t_call_sign is given; a warning", " : t_call_sign (3A1) provided but NOT validated.");
+const Message kTiltPowerTooHigh("GT1: t_erp_beam_tilt_dbw is above 53", " t_erp_beam_tilt_dbw : Value should be <= 53.0");
+const Message kTiltPowerBelowH("GT1: t_erp_h_dbw is not below t_erp_beam_tilt_dbw", " t_erp_beam_tilt_dbw must be greater than t_erp_h_dbw");
+const Message kTiltPowerBelowV("GT1: t_erp_v_dbw is not below t_erp_beam_tilt_dbw", " t_erp_beam_tilt_dbw must be greater than t_erp_v_dbw");
+const Message kTiltAngle("GT1: t_beam_tilt_angle is outside the range", " t_beam_tilt_angle : Value should be [-30.0, 30.0]");
+const Message kHeight("GT1, GS1: a height of <ANT_HGT> is outside the range; an empty one counts as 0", " t_eff_hgt@azm%1 : Value should be an integer between [-3000 , t_eff_hgtmax] (9EC)");
+const Message kAttenuationH("GT1, GS1: an attenuation is outside the range", " : <ANT_DIAGR_H> :  t_attn@azm%1 : Value should be a numerical between [0.0 , 40.0]");
+const Message kAttenuationV("GT1, GS1: an attenuation is outside the range", " : <ANT_DIAGR_V> :  t_attn@azm%1 : Value should be a numerical between [0.0 , 40.0]");
+const Message kNotNormalizedV("GT1, GS1: none of the 36 attenuations is 0 or empty", " : <ANT_DIAGR_V> : has to be normalized ");
+const Message kNotNormalizedH("GT1, GS1: none of the 36 attenuations is 0 or empty", " : <ANT_DIAGR_H> : has to be normalized ");
+const Message kNoTargetId("GT1, GS1, MODIFY, fragment other than NTFD_PZ: t_trg_adm_ref_id is empty", "t_trg_adm_ref_id is a mandatory value");
+const Message kNoTarget("GT1, GS1, MODIFY, fragment NTFD_PZ: neither the identifier nor all data of the target are given", " Either t_trg_adm_ref_id Or t_trg_freq, t_trg_long and t_trg_lat must be provided");
+const Message kTwoTargets("GT1, GS1, MODIFY, fragment NTFD_PZ: the identifier and data of the target are given", " Either t_trg_adm_ref_id or t_trg_freq and t_trg_long and t_trg_lat must be provided, but not both");
+const Message kPowerV("GT1, GS1, polarization M or V: t_erp_v_dbw is empty", " t_erp_v_dbw is a mandatory value (8BV)");
+const Message kPowerH("GT1, GS1, polarization M or H: t_erp_h_dbw is empty", " t_erp_h_dbw is a mandatory value (8BH)");
+const Message kNoPowerH("GT1, GS1, polarization V: t_erp_h_dbw is given", " t_erp_h_dbw should not be notified when polarization is V (8BH)");
+const Message kNoPowerV("GT1, GS1, polarization H: t_erp_v_dbw is given", " t_erp_v_dbw should not be notified when polarization is H (8BV)");
+const Message kAllOfH("GT1, GS1, antenna D, polarization M or H: a value is missing", " (9NH) <ANT_DIAGR_H> : All 36 values of e.r.p reduction of horizontally-polarized component must be provided");
+const Message kAllOfV("GT1, GS1, antenna D, polarization M or V: a value is missing", " (9NV) <ANT_DIAGR_V> : All 36 values of e.r.p reduction of vertically-polarized component must be provided");
+const Message kNoneOfH("GT1, GS1, antenna D, polarization V: a value is given", " (9NH) <ANT_DIAGR_H> : should not be notified if the polarization is%1");
+const Message kNoneOfV("GT1, GS1, antenna D, polarization H: a value is given", " (9NV) <ANT_DIAGR_V> : should not be notified if the polarization is %1");
+const Message kNoneOfVForNd("GT1, GS1, antenna ND: a value is given", " (9NV) <ANT_DIAGR_V> : should not be notified if the polarization is %1 and the antenna is %2");
+const Message kNoneOfHForNd("GT1, GS1, antenna ND: a value is given, and none of <ANT_DIAGR_V>; directly behind the label", " (9NH) <ANT_DIAGR_H> : should not be notified if the polarization is%1 and the antenna is %2");
+const Message kPlanEntry("GT1, GS1: t_plan_entry is empty", " t_plan_entry is a mandatory value");
+const Message kAssignmentCode("GT1, GS1: t_assgn_code is empty", " t_assgn_code is a mandatory value");
+const Message kNoSfnOfAllotment("GT1, GS1: t_assgn_code is S and t_associated_allot_sfn_id is given", "if t_assgn_code = S then t_associated_allot_sfn_id must not be provided");
+const Message kSoundPlanning("GS1: t_ref_plan_cfg is empty", " t_ref_plan_cfg is mandatory");
+const Message kTiltAngleMissing("GT1: t_erp_beam_tilt_dbw is given, t_beam_tilt_angle is empty", "if t_erp_beam_tilt_dbw is provided then t_beam_tilt_angle must be provided");
+const Message kTiltPowerMissing("GT1: t_beam_tilt_angle is given, t_erp_beam_tilt_dbw is empty", "if t_beam_tilt_angle is provided then t_erp_beam_tilt_dbw must be provided");
+const Message kNoSystem("GT1, fragment KV19D: t_ref_plan_cfg, t_sys_var and t_rx_mode are empty", " Either {t_sys_var, t_rx_mode} or {t_ref_plan_cfg} must be provided if notifed under Art 4");
+const Message kHalfSystem("GT1: only one of t_sys_var and t_rx_mode is given under Art 4 without t_ref_plan_cfg, or not both under Art 5", "{t_sys_var, t_rx_mode} must be provided");
+const Message kTwoSystems("GT1, fragment KV19D: t_ref_plan_cfg is given, and t_sys_var or t_rx_mode too", " If t_ref_plan_cfg is provided then {t_sys_var, t_rx_mode} must NOT be provided if notifed under Art 4");
+const Message kNoPlanning("GT1, fragment NTFD_PZ: t_ref_plan_cfg is given", "t_ref_plan_cfg must not be provided if notified under Art 5, however {t_sys_var, t_rx_mode} must be provided");
+const Message kNoTargetOfAdd("GT1, GS1, ADD: t_trg_adm_ref_id is given", "t_trg_adm_ref_id should not be notified for a %1; t_adm_ref_id is used as the identifier of the target");
+const Message kSfnDiffers("GT1, GS1: t_associated_allot_sfn_id and t_sfn_id are given and differ", " : t_associated_allot_sfn_id must be equal to t_sfn_id");
+// clang-format on
 
-bool hasAll(const AzimuthValues& values) { return std::all_of(values.begin(), values.end(), isFilled); }
+bool isFilled(const AzmValueRec& one) {
+  return !one.azm.empty() && !one.value.empty();
+}
+
+bool hasAll(const AzimuthValues& values) {
+  return std::all_of(values.begin(), values.end(), isFilled);
+}
 
 bool isGivenAndAbove(std::string_view value, double highest) {
   return !value.empty() && leadingNumber(value) > highest;
@@ -28,27 +74,24 @@ void checkBeamTilt(RuleReport& report, const NtcRec& ntc) {
   const std::string& tiltPower = ntc.t_erp_beam_tilt_dbw;
   if (!tiltPower.empty()) {
     const double power = leadingNumber(tiltPower);
-    if (power > kHighestPower) report.fatal(" t_erp_beam_tilt_dbw : Value should be <= 53.0");
+    if (power > kHighestPower) report.fatal(kTiltPowerTooHigh);
     if (!ntc.t_erp_h_dbw.empty() && leadingNumber(ntc.t_erp_h_dbw) >= power) {
-      report.fatal(" t_erp_beam_tilt_dbw must be greater than t_erp_h_dbw");
+      report.fatal(kTiltPowerBelowH);
     }
     if (!ntc.t_erp_v_dbw.empty() && leadingNumber(ntc.t_erp_v_dbw) >= power) {
-      report.fatal(" t_erp_beam_tilt_dbw must be greater than t_erp_v_dbw");
+      report.fatal(kTiltPowerBelowV);
     }
   }
   if (!ntc.t_beam_tilt_angle.empty() && !isWithin(ntc.t_beam_tilt_angle, -30, 30)) {
-    report.fatal(" t_beam_tilt_angle : Value should be [-30.0, 30.0]");
+    report.fatal(kTiltAngle);
   }
 }
 
 // Gives whether the value passed and normalizes its diagram; an empty slot reads as 0 and so does.
-bool checkAttenuation(RuleReport& report, const AzmValueRec& slot, std::string_view sectionText) {
+bool checkAttenuation(RuleReport& report, const AzmValueRec& slot, const Message& message) {
   const double value = leadingNumber(slot.value);
   if (value > kHighestAttenuation || (value < 0 && slot.present)) {
-    report.fatal(std::string(sectionText)
-                     .append(" t_attn@azm")
-                     .append(slot.azm)
-                     .append(" : Value should be a numerical between [0.0 , 40.0]"));
+    report.fatal(message, {slot.azm});
   }
   return value == 0;
 }
@@ -60,14 +103,13 @@ void checkHeightsAndDiagrams(RuleReport& report, const NtcRec& ntc) {
   bool normalizedV = false;
   for (std::size_t slot = 0; slot < kAzimuths; ++slot) {
     if (!isWithin(ntc.ant_hgt[slot].value, -3000, highest)) {
-      report.fatal(" t_eff_hgt@azm" + ntc.ant_hgt[slot].azm +
-                   " : Value should be an integer between [-3000 , t_eff_hgtmax] (9EC)");
+      report.fatal(kHeight, {ntc.ant_hgt[slot].azm});
     }
-    normalizedH |= checkAttenuation(report, ntc.ant_diagr_h[slot], " : <ANT_DIAGR_H> : ");
-    normalizedV |= checkAttenuation(report, ntc.ant_diagr_v[slot], " : <ANT_DIAGR_V> : ");
+    normalizedH |= checkAttenuation(report, ntc.ant_diagr_h[slot], kAttenuationH);
+    normalizedV |= checkAttenuation(report, ntc.ant_diagr_v[slot], kAttenuationV);
   }
-  if (!normalizedV) report.fatal(" : <ANT_DIAGR_V> : has to be normalized ");
-  if (!normalizedH) report.fatal(" : <ANT_DIAGR_H> : has to be normalized ");
+  if (!normalizedV) report.fatal(kNotNormalizedV);
+  if (!normalizedH) report.fatal(kNotNormalizedH);
 }
 
 bool hasWholeTarget(const NtcRec& ntc) {
@@ -84,20 +126,25 @@ void checkTarget(RuleReport& report, const NtcRec& ntc) {
   if (!isAction(ntc, "MODIFY")) return;
   const bool named = !ntc.t_trg_adm_ref_id.empty();
   if (!isFragment(ntc, "NTFD_PZ")) {
-    if (!named) report.fatal("t_trg_adm_ref_id is a mandatory value");
+    if (!named) report.fatal(kNoTargetId);
   } else if (!named && !hasWholeTarget(ntc)) {
-    report.fatal(" Either t_trg_adm_ref_id Or t_trg_freq, t_trg_long and t_trg_lat must be provided");
+    report.fatal(kNoTarget);
   } else if (named && hasAnyOfTarget(ntc)) {
-    report.fatal(
-        " Either t_trg_adm_ref_id or t_trg_freq and t_trg_long and t_trg_lat must be provided, but not both");
+    report.fatal(kTwoTargets);
   }
 }
 
-bool hasLong(const NtcRec& ntc) { return !(ntc.long_deg.empty() || ntc.long_min.empty() || ntc.long_ew.empty()); }
+bool hasLong(const NtcRec& ntc) {
+  return !(ntc.long_deg.empty() || ntc.long_min.empty() || ntc.long_ew.empty());
+}
 
-bool hasLat(const NtcRec& ntc) { return !(ntc.lat_deg.empty() || ntc.lat_min.empty() || ntc.lat_ns.empty()); }
+bool hasLat(const NtcRec& ntc) {
+  return !(ntc.lat_deg.empty() || ntc.lat_min.empty() || ntc.lat_ns.empty());
+}
 
-bool hasAllHeights(const NtcRec& ntc) { return hasAll(ntc.ant_hgt); }
+bool hasAllHeights(const NtcRec& ntc) {
+  return hasAll(ntc.ant_hgt);
+}
 
 // clang-format off
 constexpr MandatoryRow kReference[] = {
@@ -187,6 +234,7 @@ struct PlanEntryRow {
   std::string_view admAllotIdMessage;
   Demand allotSfnId;
   std::string_view allotSfnIdMessage;
+  std::array<std::string_view, 4> allWords() const { return {codeMessage, sfnIdMessage, admAllotIdMessage, allotSfnIdMessage}; }
 };
 
 constexpr PlanEntryRow kPlanEntries[] = {
@@ -211,16 +259,20 @@ constexpr PlanEntryRow kPlanEntries[] = {
      Demand::given,  "For t_plan_entry = 5, t_associated_adm_allot_id must be provided",
      Demand::absent, "For t_plan_entry = 5, t_associated_allot_sfn_id must NOT be provided"},
 };
-// clang-format on
 
-constexpr std::string_view kNoHDiagram = " (9NH) <ANT_DIAGR_H> : should not be notified if the polarization is";
-constexpr std::string_view kNoVDiagram = " (9NV) <ANT_DIAGR_V> : should not be notified if the polarization is ";
-constexpr std::string_view kAllOfH =
-    " (9NH) <ANT_DIAGR_H> : All 36 values of e.r.p reduction of horizontally-polarized component must be provided";
-constexpr std::string_view kAllOfV =
-    " (9NV) <ANT_DIAGR_V> : All 36 values of e.r.p reduction of vertically-polarized component must be provided";
-constexpr std::string_view kPowerH = " t_erp_h_dbw is a mandatory value (8BH)";
-constexpr std::string_view kPowerV = " t_erp_v_dbw is a mandatory value (8BV)";
+const TableMessages kListedReference("GT1, GS1: the field is empty", kReference);
+const TableMessages kListedMandatory("GT1, GS1: the field is empty, or a value of the section", kMandatory);
+const TableMessages kListedMandatory4("GT1, GS1, fragment KV19D: the field is empty", kMandatoryUnderArt4);
+const TableMessages kListedMandatory5("GT1, GS1, fragment NTFD_PZ: the field is empty", kMandatoryUnderArt5);
+const TableMessages kListedNetwork("GT1, GS1: the field is given; the type follows", kNoNetworkType);
+const TableMessages kListedAllotment("GT1, GS1: the field is given, a line for each; the type follows", kAbsentAllotment);
+const TableMessages kListedPoints("GT1, GS1: t_nb_test_pts is given, a line for each point; the type follows", kAbsentTestPoints);
+const TableMessages kListedContour("GT1, GS1: the field is given; the type follows", kAbsentContour);
+const TableMessages kListedSound("GS1: the field is given; the type follows", kAbsentForSound);
+const TableMessages kListedAbsent4("GT1, GS1, fragment KV19D: the field is given", kAbsentUnderArt4);
+const TableMessages kListedAbsent5("GT1, GS1, fragment NTFD_PZ: the field is given", kAbsentUnderArt5);
+const TableMessages kListedPlanEntries("GT1, GS1: the field doesn't fit the plan entry", kPlanEntries);
+// clang-format on
 
 void checkMixedPolarization(RuleReport& report, const NtcRec& ntc) {
   if (ntc.t_erp_v_dbw.empty()) report.fatal(kPowerV);
@@ -232,24 +284,24 @@ void checkMixedPolarization(RuleReport& report, const NtcRec& ntc) {
 
 void checkVerticalPolarization(RuleReport& report, const NtcRec& ntc) {
   if (!ntc.t_erp_h_dbw.empty()) {
-    report.fatal(" t_erp_h_dbw should not be notified when polarization is V (8BH)");
+    report.fatal(kNoPowerH);
   } else if (ntc.t_erp_v_dbw.empty()) {
     report.fatal(kPowerV);
   }
   if (ntc.t_ant_dir != "D") return;
   if (!hasAll(ntc.ant_diagr_v)) report.fatal(kAllOfV);
-  if (hasAntDiagrH(ntc)) report.fatal(std::string(kNoHDiagram).append(ntc.t_polar));
+  if (hasAntDiagrH(ntc)) report.fatal(kNoneOfH, {ntc.t_polar});
 }
 
 void checkHorizontalPolarization(RuleReport& report, const NtcRec& ntc) {
   if (!ntc.t_erp_v_dbw.empty()) {
-    report.fatal(" t_erp_v_dbw should not be notified when polarization is H (8BV)");
+    report.fatal(kNoPowerV);
   } else if (ntc.t_erp_h_dbw.empty()) {
     report.fatal(kPowerH);
   }
   if (ntc.t_ant_dir != "D") return;
   if (!hasAll(ntc.ant_diagr_h)) report.fatal(kAllOfH);
-  if (hasAntDiagrV(ntc)) report.fatal(std::string(kNoVDiagram).append(ntc.t_polar));
+  if (hasAntDiagrV(ntc)) report.fatal(kNoneOfV, {ntc.t_polar});
 }
 
 void checkPolarization(RuleReport& report, const NtcRec& ntc) {
@@ -260,27 +312,26 @@ void checkPolarization(RuleReport& report, const NtcRec& ntc) {
 
 void checkNonDirectional(RuleReport& report, const NtcRec& ntc) {
   if (ntc.t_ant_dir != "ND") return;
-  const std::string ending = ntc.t_polar + " and the antenna is " + ntc.t_ant_dir;
   if (hasAntDiagrV(ntc)) {
-    report.fatal(std::string(kNoVDiagram).append(ending));
+    report.fatal(kNoneOfVForNd, {ntc.t_polar, ntc.t_ant_dir});
   } else if (hasAntDiagrH(ntc)) {
-    report.fatalGlued(std::string(kNoHDiagram).append(ending));
+    report.fatalGlued(kNoneOfHForNd, {ntc.t_polar, ntc.t_ant_dir});
   }
 }
 
 void checkPlanEntry(RuleReport& report, const NtcRec& ntc) {
-  if (ntc.t_plan_entry.empty()) report.fatal(" t_plan_entry is a mandatory value");
-  if (ntc.t_assgn_code.empty()) report.fatal(" t_assgn_code is a mandatory value");
+  if (ntc.t_plan_entry.empty()) report.fatal(kPlanEntry);
+  if (ntc.t_assgn_code.empty()) report.fatal(kAssignmentCode);
   const DigitalRec& digital = ntc.digital;
   if (!ntc.t_plan_entry.empty() && !ntc.t_assgn_code.empty()) {
     std::string msg;
-    if (checkPlanEntryAssgn(ntc.t_plan_entry, ntc.t_assgn_code, digital.t_sfn_id, digital.t_associated_adm_allot_id,
-                            digital.t_associated_allot_sfn_id, msg)) {
-      report.fatal(msg);
+    if (checkPlanEntryAssgn(ntc.t_plan_entry, ntc.t_assgn_code, digital.t_sfn_id,
+                            digital.t_associated_adm_allot_id, digital.t_associated_allot_sfn_id, msg)) {
+      report.fatalRow(msg);
     }
   }
   if (equalsIgnoringCase(ntc.t_assgn_code, "S") && !digital.t_associated_allot_sfn_id.empty()) {
-    report.fatal("if t_assgn_code = S then t_associated_allot_sfn_id must not be provided");
+    report.fatal(kNoSfnOfAllotment);
   }
 }
 
@@ -289,30 +340,27 @@ void checkSystemUnderArt4(RuleReport& report, const NtcRec& ntc) {
   const bool mode = !ntc.digital.t_rx_mode.empty();
   if (!ntc.digital.t_ref_plan_cfg.empty()) {
     if (variant || mode) {
-      report.fatal(
-          " If t_ref_plan_cfg is provided then {t_sys_var, t_rx_mode} must NOT be provided if notifed under Art 4");
+      report.fatal(kTwoSystems);
     }
   } else if (!variant && !mode) {
-    report.fatal(" Either {t_sys_var, t_rx_mode} or {t_ref_plan_cfg} must be provided if notifed under Art 4");
+    report.fatal(kNoSystem);
   } else if (!variant || !mode) {
-    report.fatal("{t_sys_var, t_rx_mode} must be provided");
+    report.fatal(kHalfSystem);
   }
 }
 
 void checkSystemUnderArt5(RuleReport& report, const NtcRec& ntc) {
   if (!ntc.digital.t_ref_plan_cfg.empty()) {
-    report.fatal(
-        "t_ref_plan_cfg must not be provided if notified under Art 5, however {t_sys_var, t_rx_mode} must be "
-        "provided");
+    report.fatal(kNoPlanning);
   }
-  if (ntc.t_sys_var.empty() || ntc.digital.t_rx_mode.empty()) report.fatal("{t_sys_var, t_rx_mode} must be provided");
+  if (ntc.t_sys_var.empty() || ntc.digital.t_rx_mode.empty()) report.fatal(kHalfSystem);
 }
 
 void checkTelevision(RuleReport& report, const NtcRec& ntc) {
   const bool power = !ntc.t_erp_beam_tilt_dbw.empty();
   const bool angle = !ntc.t_beam_tilt_angle.empty();
-  if (power && !angle) report.fatal("if t_erp_beam_tilt_dbw is provided then t_beam_tilt_angle must be provided");
-  if (angle && !power) report.fatal("if t_beam_tilt_angle is provided then t_erp_beam_tilt_dbw must be provided");
+  if (power && !angle) report.fatal(kTiltAngleMissing);
+  if (angle && !power) report.fatal(kTiltPowerMissing);
   if (isFragment(ntc, "KV19D")) checkSystemUnderArt4(report, ntc);
   if (isFragment(ntc, "NTFD_PZ")) checkSystemUnderArt5(report, ntc);
 }
@@ -320,8 +368,7 @@ void checkTelevision(RuleReport& report, const NtcRec& ntc) {
 void checkAbsent(RuleReport& report, const NtcRec& ntc) {
   forbid(report, ntc, kNoNetworkType, ntc.t_notice_type);
   if (isAction(ntc, "ADD") && !ntc.t_trg_adm_ref_id.empty()) {
-    report.fatal("t_trg_adm_ref_id should not be notified for a " + ntc.t_action +
-                 "; t_adm_ref_id is used as the identifier of the target");
+    report.fatal(kNoTargetOfAdd, {ntc.t_action});
   }
   forbid(report, ntc, kAbsentAllotment, ntc.t_notice_type);
   if (!ntc.digital.contour.t_nb_test_pts.empty()) forbid(report, ntc, kAbsentTestPoints, ntc.t_notice_type);
@@ -336,18 +383,18 @@ void checkAbsent(RuleReport& report, const NtcRec& ntc) {
 bool checkAssgnValues(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   if (!ntc.t_fragment.empty() && !isFragment(ntc, "KV19D") && !isFragment(ntc, "NTFD_PZ")) {
-    report.fatal(" t_fragment : Acceptable value for assignments are {KV19D, NTFD_PZ}");
+    report.fatal(kFragment);
   }
   if (isGivenAndAbove(ntc.t_erp_h_dbw, kHighestPower)) {
-    report.fatal(" t_erp_h_dbw : Value should be <= 53.0 (8BH)");
+    report.fatal(kPowerHTooHigh);
   }
   if (isGivenAndAbove(ntc.t_erp_v_dbw, kHighestPower)) {
-    report.fatal(" t_erp_v_dbw : Value should be <= 53.0 (8BV)");
+    report.fatal(kPowerVTooHigh);
   }
   if (equalsIgnoringCase(ntc.t_polar, "U")) {
-    report.fatal(" t_polar : For assignments acceptable values are {V, H, M} (9D)");
+    report.fatal(kPolarization);
   }
-  if (!ntc.t_call_sign.empty()) report.warning(" : t_call_sign (3A1) provided but NOT validated.");
+  if (!ntc.t_call_sign.empty()) report.warning(kCallSign);
   if (isType(ntc, "GT1")) checkBeamTilt(report, ntc);
   checkHeightsAndDiagrams(report, ntc);
   return report.good;
@@ -363,12 +410,12 @@ bool checkAssgnMandatory(const NtcRec& ntc, std::string& errs, std::string_view 
   checkPlanEntry(report, ntc);
   if (isFragment(ntc, "KV19D")) demand(report, ntc, kMandatoryUnderArt4);
   if (isFragment(ntc, "NTFD_PZ")) demand(report, ntc, kMandatoryUnderArt5);
-  if (isType(ntc, "GS1") && ntc.digital.t_ref_plan_cfg.empty()) report.fatal(" t_ref_plan_cfg is mandatory");
+  if (isType(ntc, "GS1") && ntc.digital.t_ref_plan_cfg.empty()) report.fatal(kSoundPlanning);
   if (isType(ntc, "GT1")) checkTelevision(report, ntc);
   checkAbsent(report, ntc);
   const std::string& associated = ntc.digital.t_associated_allot_sfn_id;
   if (!associated.empty() && !ntc.digital.t_sfn_id.empty() && associated != ntc.digital.t_sfn_id) {
-    report.fatal(" : t_associated_allot_sfn_id must be equal to t_sfn_id");
+    report.fatal(kSfnDiffers);
   }
   return report.good;
 }
@@ -377,9 +424,9 @@ bool checkPlanEntryAssgn(std::string_view planEntry, std::string_view assgnCode,
                          std::string_view associatedAdmAllotId, std::string_view associatedAllotSfnId,
                          std::string& msg) {
   msg.clear();
-  const auto* row = std::find_if(std::begin(kPlanEntries), std::end(kPlanEntries), [planEntry](const PlanEntryRow& one) {
-    return equalsIgnoringCase(one.planEntry, planEntry);
-  });
+  const auto* row = std::find_if(
+      std::begin(kPlanEntries), std::end(kPlanEntries),
+      [planEntry](const PlanEntryRow& one) { return equalsIgnoringCase(one.planEntry, planEntry); });
   if (row == std::end(kPlanEntries)) return false;
   const auto expect = [&msg](bool good, std::string_view message) {
     if (!good) msg.append(message).append(kLineEnd);
@@ -387,7 +434,8 @@ bool checkPlanEntryAssgn(std::string_view planEntry, std::string_view assgnCode,
   const auto meets = [](Demand demanded, std::string_view value) {
     return demanded == Demand::none || (demanded == Demand::given) == !value.empty();
   };
-  const bool codeGood = assgnCode.size() == 1 && row->codes.find(upperChar(assgnCode[0])) != std::string_view::npos;
+  const bool codeGood =
+      assgnCode.size() == 1 && row->codes.find(upperChar(assgnCode[0])) != std::string_view::npos;
   expect(codeGood, row->codeMessage);
   expect(meets(row->sfnId, sfnId), row->sfnIdMessage);
   expect(meets(row->admAllotId, associatedAdmAllotId), row->admAllotIdMessage);

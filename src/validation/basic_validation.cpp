@@ -2,17 +2,24 @@
 
 #include "noticefile/strict_reader.h"
 #include "platform/code_page.h"
+#include "platform/message.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 
 namespace zamo {
+namespace {
+
+const Message kStatus("status: a notice was read on level 1", "Notice no : %1");
+
+}  // namespace
 
 StageResult runBasicValidation(const Host& host, std::string& report, std::int64_t& noticesRead,
                                const std::string& filePath, bool withFileName) {
   noticesRead = 0;
   try {
     LineSource lines(filePath);
-    return {validateLines(host, lines, report, noticesRead, withFileName ? textFromUtf8(filePath) : std::string())};
+    return {validateLines(host, lines, report, noticesRead,
+                          withFileName ? textFromUtf8(filePath) : std::string())};
   } catch (const RunTimeError& error) {
     showRunTimeError(host, error.number, "Validate Notice", error.text);
     return {false, true};
@@ -36,7 +43,7 @@ bool validateLines(const Host& host, LineSource& lines, std::string& report, std
       reading.prefix.append("Notice No : ").append(std::to_string(noticesRead));
       result = valReadNotice(reading) && result;
       if (prefixOfFile.empty()) {
-        host.setStatus("Notice no : " + std::to_string(noticesRead));
+        host.setStatus(kStatus.filled({std::to_string(noticesRead)}));
         host.repaint();
       }
     } else if (equalsIgnoringCase(reading.currentLine, kTailTag)) {

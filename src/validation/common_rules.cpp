@@ -16,8 +16,23 @@
 namespace zamo {
 namespace {
 
-constexpr std::string_view kRefPlanMessage =
-    " t_ref_plan_cfg : Acceptable values are : for DVB-T : {RPC1, RPC2, RPC3} and for T_DAB : {RPC4, RPC5}";
+// clang-format off
+const Message kActionOfContour("GA1, TB5: t_action is MODIFY", " t_action : Acceptable values are {ADD, SUPPRESS}");
+const Message kActionOfOthers("all types but GA1 and TB5: t_action is SUPPRESS", " t_action : Acceptable values are {ADD, MODIFY}");
+const Message kExpiryBeforeUse("t_d_expiry is before t_d_inuse", " t_d_inuse =< t_d_expiry");
+const Message kUseTooLate("fragment NTFD_PZ: t_d_inuse is later than 3 months from the date of receipt, or from today", " t_d_inuse must be =< t_date_rcv + 3 months");
+const Message kMaskOfTelevision("GT1, GT2: t_spect_mask is another value", " t_spect_mask : Acceptable values are : for DVB-T : {N, S} ");
+const Message kMaskOfSound("GS1, GS2: t_spect_mask is another value", " t_spect_mask : Acceptable values are : for T-DAB : {1, 2, 3}");
+const Message kVariantTooLong("t_sys_var has 3 characters or more", kSystemVariantLength);
+const Message kVariantUnknown("t_sys_var is another value", kSystemVariantValues);
+const Message kFrequency("t_freq_assgn or t_trg_freq_assgn is refused; the second part is that of the frequency rules", "%1 : %2");
+const Message kRefPlan("GT1, GT2, GS1, GS2: t_ref_plan_cfg is another value than those of the type", " t_ref_plan_cfg : Acceptable values are : for DVB-T : {RPC1, RPC2, RPC3} and for T_DAB : {RPC4, RPC5}");
+const Message kNetwork("GT2: t_typ_ref_netwk is another value", " t_typ_ref_netwk : Acceptable values are : for DVB-T allotment : {RN1, RN2, RN3, RN4}");
+const Message kTestPoints("GA1: t_nb_test_pts is empty or outside the range", "Value must be between [3-99]");
+const Message kTargetDiffers("MODIFY, fragment other than NTFD_PZ, not TB2, TB3 or GA1: t_trg_adm_ref_id differs from t_adm_ref_id", " t_trg_adm_ref_id must be same as t_adm_ref_id for fragment %1");
+const Message kNoFragment("TB2, TB3: t_fragment is given", " : t_fragment should not be notified for a %1");
+const Message kNoPlan("all types but TB2 and TB3: t_plan is given", " : t_plan should not be notified for a %1");
+// clang-format on
 
 Date dateOf(std::string_view text) {
   std::string slashed(text);
@@ -28,8 +43,9 @@ Date dateOf(std::string_view text) {
 }
 
 bool isGivenAndNotOneOf(std::string_view value, std::initializer_list<std::string_view> accepted) {
-  return !value.empty() && std::none_of(accepted.begin(), accepted.end(),
-                                        [value](std::string_view one) { return equalsIgnoringCase(one, value); });
+  return !value.empty() && std::none_of(accepted.begin(), accepted.end(), [value](std::string_view one) {
+    return equalsIgnoringCase(one, value);
+  });
 }
 
 using RuleGroup = bool (*)(const NtcRec&, std::string&, std::string_view);
@@ -47,19 +63,19 @@ void checkTbValues(RuleReport& report, const NtcRec& ntc) {
 
 void checkAction(RuleReport& report, const NtcRec& ntc) {
   if (isAnyType(ntc, {"GA1", "TB5"})) {
-    if (isAction(ntc, "MODIFY")) report.fatal(" t_action : Acceptable values are {ADD, SUPPRESS}");
+    if (isAction(ntc, "MODIFY")) report.fatal(kActionOfContour);
   } else if (isAction(ntc, "SUPPRESS")) {
-    report.fatal(" t_action : Acceptable values are {ADD, MODIFY}");
+    report.fatal(kActionOfOthers);
   }
 }
 
 void checkDates(RuleReport& report, const NtcRec& ntc, const Date& today) {
   if (!ntc.t_d_inuse.empty() && !ntc.t_d_expiry.empty() && dateOf(ntc.t_d_expiry) < dateOf(ntc.t_d_inuse)) {
-    report.fatal(" t_d_inuse =< t_d_expiry");
+    report.fatal(kExpiryBeforeUse);
   }
   if (ntc.t_fragment == "NTFD_PZ" && !ntc.t_d_inuse.empty()) {
     const Date received = ntc.d_rcv.empty() ? today : dateOf(ntc.d_rcv);
-    if (dateOf(ntc.t_d_inuse) > addMonths(received, 3)) report.fatal(" t_d_inuse must be =< t_date_rcv + 3 months");
+    if (dateOf(ntc.t_d_inuse) > addMonths(received, 3)) report.fatal(kUseTooLate);
   }
 }
 
@@ -79,30 +95,32 @@ constexpr RangeRow kHeightRanges[] = {
 constexpr RangeRow kOffsetRange[] = {
     {textAt<&NtcRec::t_offset>,      -500,  500, " :  t_offset  t_offset : Value should be between [-500.0, 500.0] (1E)"},
 };
+const TableMessages kListedHeights("the value is outside the range", kHeightRanges);
+const TableMessages kListedOffset("the value is outside the range", kOffsetRange);
 // clang-format on
 
 void checkRanges(RuleReport& report, const NtcRec& ntc, std::span<const RangeRow> rows) {
   for (const RangeRow& row : rows) {
     const std::string& value = row.field.in(ntc);
-    if (!value.empty() && !isWithin(value, row.lowest, row.highest)) report.fatal(row.message);
+    if (!value.empty() && !isWithin(value, row.lowest, row.highest)) report.fatalRow(row.message);
   }
 }
 
 void checkSpectrumMask(RuleReport& report, const NtcRec& ntc) {
   const std::string& mask = ntc.digital.t_spect_mask;
   if (isAnyType(ntc, {"GT1", "GT2"}) && isGivenAndNotOneOf(mask, {"S", "N"})) {
-    report.fatal(" t_spect_mask : Acceptable values are : for DVB-T : {N, S} ");
+    report.fatal(kMaskOfTelevision);
   }
   if (isAnyType(ntc, {"GS1", "GS2"}) && isGivenAndNotOneOf(mask, {"1", "2", "3"})) {
-    report.fatal(" t_spect_mask : Acceptable values are : for T-DAB : {1, 2, 3}");
+    report.fatal(kMaskOfSound);
   }
 }
 
 void checkSystemVariant(RuleReport& report, const NtcRec& ntc) {
   const std::string& variant = ntc.t_sys_var;
   if (variant.empty()) return;
-  if (variant.size() >= 3) return report.fatal(kSystemVariantLength);
-  if (!isSystemVariant(variant)) return report.fatal(kSystemVariantValues);
+  if (variant.size() >= 3) return report.fatal(kVariantTooLong);
+  if (!isSystemVariant(variant)) return report.fatal(kVariantUnknown);
   report.good = checkChannelRaster(ntc, variant.front(), report.errs, report.label) && report.good;
 }
 
@@ -112,7 +130,7 @@ void checkFrequency(RuleReport& report, std::string_view key, std::string_view f
   std::string msg;
   const bool good =
       television ? checkDvbtFrequency(ntc.t_ctry, frequency, msg) : checkDabFrequency(frequency, msg);
-  if (!good) report.fatal(std::string(key).append(" : ").append(msg));
+  if (!good) report.fatal(kFrequency, {key, msg});
 }
 
 void checkFrequencies(RuleReport& report, const NtcRec& ntc, bool television) {
@@ -121,15 +139,16 @@ void checkFrequencies(RuleReport& report, const NtcRec& ntc, bool television) {
 }
 
 void checkSoundPlanning(RuleReport& report, const NtcRec& ntc) {
-  if (isGivenAndNotOneOf(ntc.digital.t_ref_plan_cfg, {"RPC5", "RPC4"})) report.fatal(kRefPlanMessage);
+  if (isGivenAndNotOneOf(ntc.digital.t_ref_plan_cfg, {"RPC5", "RPC4"})) report.fatal(kRefPlan);
   checkFrequencies(report, ntc, false);
 }
 
 void checkTelevisionPlanning(RuleReport& report, const NtcRec& ntc) {
-  if (isType(ntc, "GT2") && isGivenAndNotOneOf(ntc.digital.allot.t_typ_ref_netwk, {"RN1", "RN2", "RN3", "RN4"})) {
-    report.fatal(" t_typ_ref_netwk : Acceptable values are : for DVB-T allotment : {RN1, RN2, RN3, RN4}");
+  if (isType(ntc, "GT2") &&
+      isGivenAndNotOneOf(ntc.digital.allot.t_typ_ref_netwk, {"RN1", "RN2", "RN3", "RN4"})) {
+    report.fatal(kNetwork);
   }
-  if (isGivenAndNotOneOf(ntc.digital.t_ref_plan_cfg, {"RPC1", "RPC2", "RPC3"})) report.fatal(kRefPlanMessage);
+  if (isGivenAndNotOneOf(ntc.digital.t_ref_plan_cfg, {"RPC1", "RPC2", "RPC3"})) report.fatal(kRefPlan);
   checkFrequencies(report, ntc, true);
 }
 
@@ -169,13 +188,17 @@ constexpr AbsentRow kOnlyInNotifiedFragment[] = {
     {once<hasTargetLong>,                       " : t_trg_long should not be notified for a "},
     {once<hasTargetLat>,                        " : t_trg_lat should not be notified for a "},
 };
+const TableMessages kListedMandatory("the field is empty", kMandatory);
+const TableMessages kListedFragment("all types but TB2, TB3 and GA1: the field is empty", kMandatoryFragment);
+const TableMessages kListedCountry("all types but TB2, TB3 and TB5: the field is empty", kMandatoryCountry);
+const TableMessages kListedNotified("fragment other than NTFD_PZ, all types but TB2: the field is given; the type, \" - Fragment: \" and the fragment follow", kOnlyInNotifiedFragment);
 // clang-format on
 
 void checkFragmentFields(RuleReport& report, const NtcRec& ntc) {
   if (isAnyType(ntc, {"TB3", "TB2"})) {
-    if (!ntc.t_fragment.empty()) report.fatal(" : t_fragment should not be notified for a " + ntc.t_notice_type);
+    if (!ntc.t_fragment.empty()) report.fatal(kNoFragment, {ntc.t_notice_type});
   } else if (!ntc.t_plan.empty()) {
-    report.fatal(" : t_plan should not be notified for a " + ntc.t_notice_type);
+    report.fatal(kNoPlan, {ntc.t_notice_type});
   }
   if (!isFragment(ntc, "NTFD_PZ") && !isType(ntc, "TB2")) {
     forbid(report, ntc, kOnlyInNotifiedFragment, ntc.t_notice_type + " - Fragment: " + ntc.t_fragment);
@@ -198,7 +221,7 @@ bool checkNtcValues(const NtcRec& ntc, std::string& errs, std::string_view label
   if (isAnyType(ntc, {"GS1", "GS2"})) checkSoundPlanning(report, ntc);
   if (isAnyType(ntc, {"GT2", "GT1"})) checkTelevisionPlanning(report, ntc);
   if (isType(ntc, "GA1") && !isWithin(ntc.digital.contour.t_nb_test_pts, 3, 99)) {
-    report.fatal("Value must be between [3-99]");
+    report.fatal(kTestPoints);
   }
   return report.good;
 }
@@ -209,7 +232,7 @@ bool checkNtcMandatory(const NtcRec& ntc, std::string& errs, std::string_view la
   if (!isAnyType(ntc, {"TB2", "TB3", "GA1"})) {
     demand(report, ntc, kMandatoryFragment);
     if (isAction(ntc, "MODIFY") && ntc.t_trg_adm_ref_id != ntc.t_adm_ref_id && ntc.t_fragment != "NTFD_PZ") {
-      report.fatal(" t_trg_adm_ref_id must be same as t_adm_ref_id for fragment " + ntc.t_fragment);
+      report.fatal(kTargetDiffers, {ntc.t_fragment});
     }
   }
   if (!isAnyType(ntc, {"TB5", "TB2", "TB3"})) demand(report, ntc, kMandatoryCountry);

@@ -2,6 +2,7 @@
 
 #include "model/ntc_reset.h"
 #include "noticefile/section_reader.h"
+#include "platform/message.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 #include "validation/common_rules.h"
@@ -9,8 +10,10 @@
 namespace zamo {
 namespace {
 
-constexpr std::string_view kStatusWithGeo = "Complete validation with Geographic validation : Notice no : ";
-constexpr std::string_view kStatusWithoutGeo = "Complete validation without Geographic validation : Notice no : ";
+const Message kStatusWithGeo("status: a notice is judged on level 3",
+                             "Complete validation with Geographic validation : Notice no : %1");
+const Message kStatusWithoutGeo("status: a notice is judged on level 2",
+                                "Complete validation without Geographic validation : Notice no : %1");
 
 struct Validation {
   const Host& host;
@@ -61,7 +64,7 @@ void validateNotice(Validation& validation) {
   std::string label = "Notice No : " + number + " at line number : " + std::to_string(reading.lines.lineNo());
   readLine(reading);
   resetNtc(ntc);
-  validation.host.setStatus(std::string(validation.withGeo ? kStatusWithGeo : kStatusWithoutGeo).append(number));
+  validation.host.setStatus((validation.withGeo ? kStatusWithGeo : kStatusWithoutGeo).filled({number}));
   reading.prefix = label;
   const std::string messages = readNoticeSection(reading);
   label += identityOf(ntc);
@@ -97,7 +100,8 @@ StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& re
 
 bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report, bool withGeo,
                      const AgencyLookups& lookups) {
-  Validation validation{host, SectionReading{lines, ntc, {}, {}, {}}, report, withGeo, lookups, host.now().date};
+  Validation validation{host,           SectionReading{lines, ntc, {}, {}, {}}, report, withGeo, lookups,
+                        host.now().date};
   SectionReading& reading = validation.reading;
   while (!lines.atEnd()) {
     readLine(reading);

@@ -11,9 +11,9 @@
 
 namespace zamo {
 
-// Walks the file from its first to its last line, reads each section into `ntc`, adds the findings to `report` and
-// stops at no bad notice. Passed when nothing fatal was found. An error of the machine is shown in the common error
-// box and fails the stage.
+// Walks the file from its first to its last line, reads each section into `ntc`, adds the findings to
+// `report` and stops at no bad notice. Passed when nothing fatal was found. An error of the machine is shown
+// in the common error box and fails the stage.
 StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& report, bool withGeo,
                                   const std::string& filePath, const AgencyLookups& lookups);
 

@@ -41,8 +41,9 @@ struct AdministrationGroup {
 };
 
 constexpr AdministrationGroup kGroups[] = {
-    {"E", kOfSpain},      {"F", kOfFrance},   {"G", kOfUnitedKingdom}, {"POR", kOfPortugal}, {"PSE", kOfPalestine},
-    {"JOR", kOfJordan},   {"MRC", kOfMorocco}, {"DNK", kOfDenmark},    {"ISR", kOfIsrael},
+    {"E", kOfSpain},      {"F", kOfFrance},      {"G", kOfUnitedKingdom},
+    {"POR", kOfPortugal}, {"PSE", kOfPalestine}, {"JOR", kOfJordan},
+    {"MRC", kOfMorocco},  {"DNK", kOfDenmark},   {"ISR", kOfIsrael},
 };
 
 bool holds(std::span<const std::string_view> codes, std::string_view code) {
@@ -50,8 +51,8 @@ bool holds(std::span<const std::string_view> codes, std::string_view code) {
 }
 
 const std::string_view* findIgnoringCase(std::span<const std::string_view> codes, std::string_view code) {
-  const auto found =
-      std::find_if(codes.begin(), codes.end(), [code](std::string_view one) { return equalsIgnoringCase(one, code); });
+  const auto found = std::find_if(codes.begin(), codes.end(),
+                                  [code](std::string_view one) { return equalsIgnoringCase(one, code); });
   return found == codes.end() || code.empty() ? nullptr : &*found;
 }
 
@@ -121,23 +122,33 @@ static_assert(eightMhzCountriesC[16] == "TGO" && eightMhzCountriesC[17].empty())
 static_assert(dvbtUhfFrequencies[48] == 858 && dvbtUhfFrequencies[49] == 0);
 static_assert(std::size(kNumberedAdministrations) == 120);
 
-bool isKv19Administration(std::string_view code) { return findIgnoringCase(kv19Administrations, code) != nullptr; }
+bool isKv19Administration(std::string_view code) {
+  return findIgnoringCase(kv19Administrations, code) != nullptr;
+}
 
 bool isCtryOfAdm(std::string_view ctry, std::string_view adm) {
   if (equalsIgnoringCase(ctry, adm)) return true;
-  const auto* group = std::find_if(std::begin(kGroups), std::end(kGroups), [adm](const AdministrationGroup& one) {
-    return equalsIgnoringCase(one.adm, adm);
-  });
+  const auto* group =
+      std::find_if(std::begin(kGroups), std::end(kGroups),
+                   [adm](const AdministrationGroup& one) { return equalsIgnoringCase(one.adm, adm); });
   return group != std::end(kGroups) && findIgnoringCase(group->countries, ctry) != nullptr;
 }
 
-bool isSevenMhzCountry(std::string_view code) { return holds(sevenMhzCountries, code); }
+bool isSevenMhzCountry(std::string_view code) {
+  return holds(sevenMhzCountries, code);
+}
 
-bool isEightMhzCountryA(std::string_view code) { return holds(eightMhzCountriesA, code); }
+bool isEightMhzCountryA(std::string_view code) {
+  return holds(eightMhzCountriesA, code);
+}
 
-bool isEightMhzCountryB(std::string_view code) { return holds(eightMhzCountriesB, code); }
+bool isEightMhzCountryB(std::string_view code) {
+  return holds(eightMhzCountriesB, code);
+}
 
-bool isEightMhzCountryC(std::string_view code) { return holds(eightMhzCountriesC, code); }
+bool isEightMhzCountryC(std::string_view code) {
+  return holds(eightMhzCountriesC, code);
+}
 
 std::int32_t admNumericBase(std::string_view code) {
   const std::string_view* found = findIgnoringCase(kNumberedAdministrations, code);

@@ -22,7 +22,8 @@ extern const std::array<double, 50> dvbtUhfFrequencies;
 // Whether the code may notify under the plan, in any case.
 bool isKv19Administration(std::string_view code);
 
-// Whether the administration may notify for a country or area, in any case: for itself and for those of its group.
+// Whether the administration may notify for a country or area, in any case: for itself and for those of its
+// group.
 bool isCtryOfAdm(std::string_view ctry, std::string_view adm);
 
 // Whether a country has channels of 7 or 8 MHz in VHF. Codes are compared exactly.
@@ -31,7 +32,8 @@ bool isEightMhzCountryA(std::string_view code);
 bool isEightMhzCountryB(std::string_view code);
 bool isEightMhzCountryC(std::string_view code);
 
-// The base of an administration's block of 100000 keys in the working database, in any case; 0 for an unlisted code.
+// The base of an administration's block of 100000 keys in the working database, in any case; 0 for an
+// unlisted code.
 std::int32_t admNumericBase(std::string_view code);
 
 }  // namespace zamo

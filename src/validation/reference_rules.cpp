@@ -7,12 +7,25 @@
 namespace zamo {
 namespace {
 
+// clang-format off
+const Message kHeadWithoutAdm("<HEAD>: t_adm is empty", " t_adm is a mandatory value (B)");
+const Message kHeadWithUnknownAdm("<HEAD>: t_adm is no administration of the plan", " t_adm : Invalid administration code for the KV19");
+const Message kNoCountry("GT1, GS1, GT2, GS2, GA1: t_ctry is empty", " : t_ctry is empty cannot validate");
+const Message kForeignCountry("GT1, GS1, GT2, GS2, GA1: the administration may not notify for t_ctry", " : t_adm = %1 cannot notify for t_ctry = %2");
+const Message kForeignArea("GT2, GS2: t_geo_area is none of the administration", " : t_geo_area = %1 does not belong to t_adm = %2");
+const Message kAreaDiffers("GT2, GS2: t_geo_area differs from t_ctry", " : t_geo_area has to be identical to t_ctry ");
+const Message kCoordUnknown("all types but GA1 and TB5: a t_adm of <COORD> is no administration of the plan", " : <COORD> %1 t_adm : Invalid administration code for the KV19");
+const Message kCoordOwn("all types but GA1 and TB5: a t_adm of <COORD> is the notifying administration", " : <COORD> %1 : Notifying administration cannot be within in the <COORD> section.");
+const Message kOpAgency("t_op_agcy is none of the administration in the master template", " Invalid t_op_agcy (12A)");
+const Message kAddressCode("t_addr_code is none of the administration in the master template", " Invalid t_addr_code (12B)");
+// clang-format on
+
 void checkCountry(RuleReport& report, const NtcRec& ntc) {
   if (isAnyType(ntc, {"TB2", "TB5", "TB3"})) return;
   if (ntc.t_ctry.empty()) {
-    report.fatal(" : t_ctry is empty cannot validate");
+    report.fatal(kNoCountry);
   } else if (!isCtryOfAdm(ntc.t_ctry, ntc.t_adm)) {
-    report.fatal(" : t_adm = " + ntc.t_adm + " cannot notify for t_ctry = " + ntc.t_ctry);
+    report.fatal(kForeignCountry, {ntc.t_adm, ntc.t_ctry});
   }
 }
 
@@ -20,9 +33,9 @@ void checkGeoArea(RuleReport& report, const NtcRec& ntc) {
   const std::string& area = ntc.digital.allot.t_geo_area;
   if (!isAnyType(ntc, {"GT2", "GS2"}) || area.empty()) return;
   if (!isCtryOfAdm(area, ntc.t_adm)) {
-    report.fatal(" : t_geo_area = " + area + " does not belong to t_adm = " + ntc.t_adm);
+    report.fatal(kForeignArea, {area, ntc.t_adm});
   } else if (!equalsIgnoringCase(area, ntc.t_ctry)) {
-    report.fatal(" : t_geo_area has to be identical to t_ctry ");
+    report.fatal(kAreaDiffers);
   }
 }
 
@@ -30,13 +43,8 @@ void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<std
   if (!isAnyType(ntc, types) || !ntc.coord.present) return;
   for (const CoordEntryRec& entry : ntc.coord.entries) {
     if (entry.adm.empty()) continue;
-    if (!isKv19Administration(entry.adm)) {
-      report.fatal(" : <COORD> " + entry.adm + " t_adm : Invalid administration code for the KV19");
-    }
-    if (equalsIgnoringCase(entry.adm, ntc.t_adm)) {
-      report.fatal(" : <COORD> " + entry.adm +
-                   " : Notifying administration cannot be within in the <COORD> section.");
-    }
+    if (!isKv19Administration(entry.adm)) report.fatal(kCoordUnknown, {entry.adm});
+    if (equalsIgnoringCase(entry.adm, ntc.t_adm)) report.fatal(kCoordOwn, {entry.adm});
   }
 }
 
@@ -45,9 +53,9 @@ void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<std
 bool checkHeadAdm(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   if (ntc.t_adm.empty()) {
-    report.fatal(" t_adm is a mandatory value (B)");
+    report.fatal(kHeadWithoutAdm);
   } else if (!isKv19Administration(ntc.t_adm)) {
-    report.fatal(" t_adm : Invalid administration code for the KV19");
+    report.fatal(kHeadWithUnknownAdm);
   }
   return report.good;
 }
@@ -60,13 +68,14 @@ bool checkNtcRefs(const NtcRec& ntc, std::string& errs, std::string_view label) 
   return report.good;
 }
 
-bool checkOpAgcyAddrCode(const NtcRec& ntc, const AgencyLookups& lookups, std::string& errs, std::string_view label) {
+bool checkOpAgcyAddrCode(const NtcRec& ntc, const AgencyLookups& lookups, std::string& errs,
+                         std::string_view label) {
   RuleReport report{errs, label};
   if (!ntc.t_op_agcy.empty() && !lookups.isOpAgcyOfAdm(ntc.t_adm, ntc.t_op_agcy)) {
-    report.fatal(" Invalid t_op_agcy (12A)");
+    report.fatal(kOpAgency);
   }
   if (!ntc.t_addr_code.empty() && !lookups.isAddrCodeOfAdm(ntc.t_adm, ntc.t_addr_code)) {
-    report.fatal(" Invalid t_addr_code (12B)");
+    report.fatal(kAddressCode);
   }
   return report.good;
 }

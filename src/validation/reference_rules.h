@@ -1,4 +1,5 @@
-// How a notice's codes relate to the notifying administration: its countries, its coordination and its agencies.
+// How a notice's codes relate to the notifying administration: its countries, its coordination and its
+// agencies.
 #pragma once
 
 #include <functional>
@@ -22,6 +23,7 @@ struct AgencyLookups {
 };
 
 // Operating agency and address code, when given, against the master template.
-bool checkOpAgcyAddrCode(const NtcRec& ntc, const AgencyLookups& lookups, std::string& errs, std::string_view label);
+bool checkOpAgcyAddrCode(const NtcRec& ntc, const AgencyLookups& lookups, std::string& errs,
+                         std::string_view label);
 
 }  // namespace zamo

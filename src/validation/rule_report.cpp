@@ -12,41 +12,61 @@ bool hasValue(const std::array<AzmValueRec, kAzimuths>& values) {
   return std::any_of(values.begin(), values.end(), [](const AzmValueRec& one) { return !one.value.empty(); });
 }
 
-std::string_view gapBefore(std::string_view message) { return message.starts_with(" : ") ? "" : " : "; }
+std::string_view gapBefore(std::string_view message) {
+  return message.starts_with(" : ") ? "" : " : ";
+}
 
 }  // namespace
 
-void RuleReport::fatal(std::string_view message) {
-  good = false;
-  add("FATAL ERROR : \r\n", gapBefore(message), message);
+void RuleReport::fatal(const Message& message, std::initializer_list<std::string_view> values) {
+  fatalRow(message.filled(values));
 }
 
-void RuleReport::warning(std::string_view message) { add("WARNING : \r\n", gapBefore(message), message); }
+void RuleReport::warning(const Message& message, std::initializer_list<std::string_view> values) {
+  add("WARNING : \r\n", gapBefore(message.words()), message.filled(values));
+}
 
-void RuleReport::fatalGlued(std::string_view message) {
+void RuleReport::fatalGlued(const Message& message, std::initializer_list<std::string_view> values) {
   good = false;
-  add("FATAL ERROR : \r\n", "", message);
+  add("FATAL ERROR : \r\n", "", message.filled(values));
+}
+
+void RuleReport::fatalRow(std::string_view words) {
+  good = false;
+  add("FATAL ERROR : \r\n", gapBefore(words), words);
 }
 
 void RuleReport::add(std::string_view head, std::string_view gap, std::string_view message) {
   errs.append(head).append(label).append(gap).append(message).append(kLineEnd);
 }
 
-bool isType(const NtcRec& ntc, std::string_view type) { return equalsIgnoringCase(ntc.t_notice_type, type); }
+bool isType(const NtcRec& ntc, std::string_view type) {
+  return equalsIgnoringCase(ntc.t_notice_type, type);
+}
 
 bool isAnyType(const NtcRec& ntc, std::initializer_list<std::string_view> types) {
   return std::any_of(types.begin(), types.end(), [&ntc](std::string_view type) { return isType(ntc, type); });
 }
 
-bool isFragment(const NtcRec& ntc, std::string_view fragment) { return equalsIgnoringCase(ntc.t_fragment, fragment); }
+bool isFragment(const NtcRec& ntc, std::string_view fragment) {
+  return equalsIgnoringCase(ntc.t_fragment, fragment);
+}
 
-bool isAction(const NtcRec& ntc, std::string_view action) { return equalsIgnoringCase(ntc.t_action, action); }
+bool isAction(const NtcRec& ntc, std::string_view action) {
+  return equalsIgnoringCase(ntc.t_action, action);
+}
 
-bool hasAntHgt(const NtcRec& ntc) { return hasValue(ntc.ant_hgt); }
+bool hasAntHgt(const NtcRec& ntc) {
+  return hasValue(ntc.ant_hgt);
+}
 
-bool hasAntDiagrH(const NtcRec& ntc) { return hasValue(ntc.ant_diagr_h); }
+bool hasAntDiagrH(const NtcRec& ntc) {
+  return hasValue(ntc.ant_diagr_h);
+}
 
-bool hasAntDiagrV(const NtcRec& ntc) { return hasValue(ntc.ant_diagr_v); }
+bool hasAntDiagrV(const NtcRec& ntc) {
+  return hasValue(ntc.ant_diagr_v);
+}
 
 bool hasPosition(const NtcRec& ntc) {
   return !(ntc.long_deg.empty() && ntc.long_min.empty() && ntc.long_sec.empty() && ntc.long_ew.empty() &&
@@ -59,12 +79,17 @@ bool hasTargetLong(const NtcRec& ntc) {
 }
 
 bool hasTargetLat(const NtcRec& ntc) {
-  return !(ntc.trg_lat_deg.empty() && ntc.trg_lat_min.empty() && ntc.trg_lat_sec.empty() && ntc.trg_lat_ns.empty());
+  return !(ntc.trg_lat_deg.empty() && ntc.trg_lat_min.empty() && ntc.trg_lat_sec.empty() &&
+           ntc.trg_lat_ns.empty());
 }
 
-bool hasCoord(const NtcRec& ntc) { return ntc.coord.present || ntc.coord.count >= 1; }
+bool hasCoord(const NtcRec& ntc) {
+  return ntc.coord.present || ntc.coord.count >= 1;
+}
 
-int countGivenContourIds(const NtcRec& ntc) { return countContourIds(ntc.digital.allot); }
+int countGivenContourIds(const NtcRec& ntc) {
+  return countContourIds(ntc.digital.allot);
+}
 
 int countPointsPresent(const NtcRec& ntc) {
   const auto& points = ntc.digital.contour.points;

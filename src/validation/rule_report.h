@@ -1,4 +1,5 @@
-// How a rule group tells its findings: a line "FATAL ERROR : " or "WARNING : ", and a line with label and message.
+// How a rule group tells its findings: a line "FATAL ERROR : " or "WARNING : ", and a line with label and
+// message.
 #pragma once
 
 #include <string>
@@ -6,6 +7,7 @@
 
 #include "model/fields.h"
 #include "model/ntc_rec.h"
+#include "platform/message.h"
 
 namespace zamo {
 
@@ -16,10 +18,12 @@ struct RuleReport {
   bool good = true;
 
   // Behind the label, and behind " : " unless the message begins with it.
-  void fatal(std::string_view message);
-  void warning(std::string_view message);
+  void fatal(const Message& message, std::initializer_list<std::string_view> values = {});
+  void warning(const Message& message, std::initializer_list<std::string_view> values = {});
   // Directly behind the label, whatever the message begins with.
-  void fatalGlued(std::string_view message);
+  void fatalGlued(const Message& message, std::initializer_list<std::string_view> values);
+  // The same as fatal, with the words of a table's row.
+  void fatalRow(std::string_view words);
 
  private:
   void add(std::string_view head, std::string_view gap, std::string_view message);
@@ -43,7 +47,8 @@ struct MandatoryRow {
   std::string_view message;
 };
 
-// A field that may not be given. It is told as many times as `count` finds it, with `message` and the notice's type.
+// A field that may not be given. It is told as many times as `count` finds it, with `message` and the
+// notice's type.
 struct AbsentRow {
   int (*count)(const NtcRec&);
   std::string_view message;
@@ -55,14 +60,15 @@ inline constexpr auto once = [](const NtcRec& ntc) { return given(ntc) ? 1 : 0; 
 template <std::size_t Rows>
 void demand(RuleReport& report, const NtcRec& ntc, const MandatoryRow (&rows)[Rows]) {
   for (const MandatoryRow& row : rows) {
-    if (!row.given(ntc)) report.fatal(row.message);
+    if (!row.given(ntc)) report.fatalRow(row.message);
   }
 }
 
 template <std::size_t Rows>
 void forbid(RuleReport& report, const NtcRec& ntc, const AbsentRow (&rows)[Rows], std::string_view ending) {
   for (const AbsentRow& row : rows) {
-    for (int left = row.count(ntc); left > 0; --left) report.fatal(std::string(row.message).append(ending));
+    for (int left = row.count(ntc); left > 0; --left)
+      report.fatalRow(std::string(row.message).append(ending));
   }
 }
 

@@ -7,6 +7,16 @@ namespace zamo {
 namespace {
 
 // clang-format off
+const Message kTwoTargets("TB2: t_trg_adm_ref_id and data of the target are given", " Either t_trg_adm_ref_id or t_trg_freq and t_trg_long and t_trg_lat must be provided, but not both");
+const Message kNoTargetPosition("TB2: t_trg_freq_assgn is given, a part of the target's coordinates is empty", " t_trg_long and t_trg_lat must be provided");
+const Message kNoTargetFrequency("TB2: the target's coordinates are given, t_trg_freq_assgn is empty", " t_freq_assgn must be provided");
+const Message kPlanValue("TB2, TB3: t_plan is another value", " t_plan : Acceptable value for assignments are {KV19D}");
+const Message kFragment("TB5: t_fragment is another value", " t_fragment : Acceptable value for assignments are {KV19D, NTFD_PZ}");
+const Message kActionOfTb5("TB5: t_action is another value", " t_action : Acceptable values are {SUPPRESS, WITHDRAW}");
+const Message kActionOfTb3("TB3: t_action is another value than PARTB", " t_action : Acceptable values are {PARTB}");
+// The words have always named the value of a TB3.
+const Message kActionOfTb2("TB2: t_action is another value than CONFORM", " t_action : Acceptable values are {PARTB}");
+
 constexpr MandatoryRow kTarget[] = {
     {isGiven<&NtcRec::t_trg_adm_ref_id>,  "t_trg_adm_ref_id is a mandatory value"},
 };
@@ -78,6 +88,17 @@ constexpr AbsentRow kAbsentDeclarations[] = {
     {once<isGiven<&NtcRec::t_is_pub_req>>,        " : t_is_pub_req should not be notified for a "},
     {once<isGivenInDigital<&DigitalRec::t_sfn_id>>, " : t_sfn_id should not be notified for a "},
 };
+
+const TableMessages kListedTarget("TB3, TB5: the field is empty", kTarget);
+const TableMessages kListedPlan("TB3: the field is empty", kPlan);
+const TableMessages kListedMandatory("TB2: the field is empty", kMandatoryForTb2);
+const TableMessages kListedAbsent("TB2, TB3, TB5: the field is given; the type follows", kAbsent);
+const TableMessages kListedCoord("TB2, TB5: the section is given; the type follows", kAbsentExceptInTb3);
+const TableMessages kListedAntenna("TB2, TB3, TB5: a value is given; the type follows", kAbsentAntenna);
+const TableMessages kListedPoints("TB2, TB3, TB5: t_nb_test_pts is given, a line for each point; the type follows", kAbsentTestPoints);
+const TableMessages kListedSystem("TB2, TB3, TB5: the field is given; the type follows", kAbsentSystem);
+const TableMessages kListedAgency("TB3, TB5: the field is given; the type follows", kAbsentExceptInTb2);
+const TableMessages kListedDeclarations("TB2, TB3, TB5: the field is given, a line for each; the type follows", kAbsentDeclarations);
 // clang-format on
 
 void checkTarget(RuleReport& report, const NtcRec& ntc) {
@@ -87,18 +108,19 @@ void checkTarget(RuleReport& report, const NtcRec& ntc) {
   const bool anyPart = !(ntc.trg_long_deg.empty() && ntc.trg_long_min.empty() && ntc.trg_lat_deg.empty() &&
                          ntc.trg_lat_min.empty());
   if (!ntc.t_trg_adm_ref_id.empty() && (frequency || anyPart)) {
-    report.fatal(
-        " Either t_trg_adm_ref_id or t_trg_freq and t_trg_long and t_trg_lat must be provided, but not both");
+    report.fatal(kTwoTargets);
   }
-  if (frequency && !allParts) report.fatal(" t_trg_long and t_trg_lat must be provided");
-  if (allParts && !frequency) report.fatal(" t_freq_assgn must be provided");
+  if (frequency && !allParts) report.fatal(kNoTargetPosition);
+  if (allParts && !frequency) report.fatal(kNoTargetFrequency);
 }
 
-bool isGivenAndNot(std::string_view value, bool accepted) { return !value.empty() && !accepted; }
+bool isGivenAndNot(std::string_view value, bool accepted) {
+  return !value.empty() && !accepted;
+}
 
 void checkPlan(RuleReport& report, const NtcRec& ntc) {
   if (isGivenAndNot(ntc.t_plan, equalsIgnoringCase(ntc.t_plan, "KV19D"))) {
-    report.fatal(" t_plan : Acceptable value for assignments are {KV19D}");
+    report.fatal(kPlanValue);
   }
 }
 
@@ -107,10 +129,10 @@ void checkPlan(RuleReport& report, const NtcRec& ntc) {
 bool checkTb5Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   if (isGivenAndNot(ntc.t_fragment, isFragment(ntc, "KV19D") || isFragment(ntc, "NTFD_PZ"))) {
-    report.fatal(" t_fragment : Acceptable value for assignments are {KV19D, NTFD_PZ}");
+    report.fatal(kFragment);
   }
   if (isGivenAndNot(ntc.t_action, isAction(ntc, "WITHDRAW") || isAction(ntc, "SUPPRESS"))) {
-    report.fatal(" t_action : Acceptable values are {SUPPRESS, WITHDRAW}");
+    report.fatal(kActionOfTb5);
   }
   return report.good;
 }
@@ -118,19 +140,14 @@ bool checkTb5Values(const NtcRec& ntc, std::string& errs, std::string_view label
 bool checkTb3Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   checkPlan(report, ntc);
-  if (isGivenAndNot(ntc.t_action, isAction(ntc, "PARTB"))) {
-    report.fatal(" t_action : Acceptable values are {PARTB}");
-  }
+  if (isGivenAndNot(ntc.t_action, isAction(ntc, "PARTB"))) report.fatal(kActionOfTb3);
   return report.good;
 }
 
 bool checkTb2Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   checkPlan(report, ntc);
-  // The message has always named the value of a TB3.
-  if (isGivenAndNot(ntc.t_action, isAction(ntc, "CONFORM"))) {
-    report.fatal(" t_action : Acceptable values are {PARTB}");
-  }
+  if (isGivenAndNot(ntc.t_action, isAction(ntc, "CONFORM"))) report.fatal(kActionOfTb2);
   return report.good;
 }
 

@@ -15,7 +15,8 @@ using test::readFile;
 using test::TempFolder;
 
 constexpr std::string_view kGoodFile =
-    "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\n</NOTICE>\n<TAIL>\nt_num_notices = 1\n</TAIL>\n";
+    "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\n</NOTICE>\n<TAIL>\nt_num_notices = "
+    "1\n</TAIL>\n";
 
 struct Outcome {
   int status = -1;
@@ -27,8 +28,8 @@ class Batch : public testing::Test {
  protected:
   // `arguments` as a shell takes them; the program runs in the test's folder.
   Outcome run(const std::string& arguments, const std::string& before = "") const {
-    const std::string command = "cd '" + folder.path() + "' && " + before + ZAMO_BIN "/zamo-kv19-batch " + arguments +
-                                " >out.log 2>err.log";
+    const std::string command = "cd '" + folder.path() + "' && " + before + ZAMO_BIN "/zamo-kv19-batch " +
+                                arguments + " >out.log 2>err.log";
     const int result = std::system(command.c_str());
     return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, readFile(folder.file("out.log")),
             readFile(folder.file("err.log"))};
@@ -42,29 +43,35 @@ TEST_F(Batch, a_sound_file_is_ok) {
   const Outcome outcome = run("check --level 1 good.txt");
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.output, "good.txt\tok\n");
-  EXPECT_EQ(outcome.messages,
-            "Checking the File format. Please be patient....\nBasic validation is running. Please be patient....\n"
-            "Notice no : 1\n");
+  EXPECT_EQ(
+      outcome.messages,
+      "Checking the File format. Please be patient....\nBasic validation is running. Please be patient....\n"
+      "Notice no : 1\n");
 }
 
 TEST_F(Batch, findings_name_their_stage_and_report_and_the_worst_file_gives_the_status) {
   folder.write("good.txt", kGoodFile);
-  folder.write("basic.txt", "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = X\n</NOTICE>\n<TAIL>\nt_num_notices = 1\n</TAIL>\n");
+  folder.write("basic.txt",
+               "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = X\n</NOTICE>\n<TAIL>\nt_num_notices = "
+               "1\n</TAIL>\n");
   folder.write("noise.txt", std::string_view("\0\xFF\x01<HEAD\r\r\r\n\n=\0=", 17));
   const Outcome outcome = run("check --level 1 basic.txt good.txt noise.txt");
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.output,
-            "basic.txt\tbasic\tbasic_val_outcome.txt\ngood.txt\tok\nnoise.txt\tstructure\tnoise_val_outcome.txt\n");
-  EXPECT_EQ(readFile(folder.file("noise_val_outcome.txt")),
-            "Number of Notice sections found : 0\r\n"
-            "noise.txt : ERROR : An electronic notice file should start with \r\n ONE <HEAD> section \r\n\r\n");
+  EXPECT_EQ(
+      outcome.output,
+      "basic.txt\tbasic\tbasic_val_outcome.txt\ngood.txt\tok\nnoise.txt\tstructure\tnoise_val_outcome.txt\n");
+  EXPECT_EQ(
+      readFile(folder.file("noise_val_outcome.txt")),
+      "Number of Notice sections found : 0\r\n"
+      "noise.txt : ERROR : An electronic notice file should start with \r\n ONE <HEAD> section \r\n\r\n");
 }
 
 TEST_F(Batch, a_missing_file_a_folder_and_wrong_usage_end_with_2) {
   std::filesystem::create_directory(folder.file("folder.txt"));
   const Outcome missing = run("check --level 1 missing.txt");
   EXPECT_EQ(missing.status, 2);
-  EXPECT_NE(missing.messages.find("Validate File format: Erreur 53:File not found: missing.txt\n"), std::string::npos);
+  EXPECT_NE(missing.messages.find("Validate File format: Erreur 53:File not found: missing.txt\n"),
+            std::string::npos);
   const Outcome directory = run("check --level 1 folder.txt");
   EXPECT_EQ(directory.status, 2);
   EXPECT_NE(directory.messages.find("Validate File format: Erreur 70:Permission denied: folder.txt\n"),
@@ -91,7 +98,8 @@ TEST_F(Batch, a_report_without_room_on_the_disk_ends_with_2_and_leaves_the_old_o
   const Outcome outcome = run("check --level 1 bad.txt", "trap '' XFSZ; ulimit -f 8; ");
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.output, "bad.txt\tbasic\n");
-  EXPECT_NE(outcome.messages.find("checkFormatAndBasic: Erreur 61:Disk full: bad_val_outcome.txt"), std::string::npos);
+  EXPECT_NE(outcome.messages.find("checkFormatAndBasic: Erreur 61:Disk full: bad_val_outcome.txt"),
+            std::string::npos);
   EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")), "the old report");
   EXPECT_FALSE(std::filesystem::exists(folder.file("bad_val_outcome.txt.part")));
 }

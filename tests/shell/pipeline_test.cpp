@@ -22,7 +22,8 @@ constexpr std::string_view kGoodFile =
     "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
     "<NOTICE>\r\nt_notice_type = TB5\r\n</NOTICE>\r\n"
     "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n";
-constexpr std::string_view kBadStructure = "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n<TAIL>\r\nt_num_notices = 0\r\n</TAIL>\r\n";
+constexpr std::string_view kBadStructure =
+    "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n<TAIL>\r\nt_num_notices = 0\r\n</TAIL>\r\n";
 constexpr std::string_view kBadValue =
     "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
     "<NOTICE>\r\nt_notice_type = TB9\r\n</NOTICE>\r\n"
@@ -58,8 +59,9 @@ TEST_F(Pipeline, a_file_with_sound_values_leaves_no_report_and_enables_the_menus
   EXPECT_TRUE(shell.screen.txtDbEnabled);
   EXPECT_FALSE(shell.screen.viewFileVisible);
   EXPECT_FALSE(shell.screen.reValVisible);
-  EXPECT_THAT(script.statuses, ElementsAre("Checking the File format. Please be patient....",
-                                           "Basic validation is running. Please be patient....", "Notice no : 1"));
+  EXPECT_THAT(script.statuses,
+              ElementsAre("Checking the File format. Please be patient....",
+                          "Basic validation is running. Please be patient....", "Notice no : 1"));
   EXPECT_EQ(script.hourglasses, 0);
 }
 
@@ -81,14 +83,15 @@ TEST_F(Pipeline, a_failed_structure_check_reports_its_text_alone) {
 TEST_F(Pipeline, a_failed_basic_validation_reports_behind_the_five_header_items) {
   choose("bad.txt", kBadValue);
   runTextCommand(shell, kCompleteWithoutGeo);
-  EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")),
-            "The input file has been validated with  LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006\r\n"
-            "On 2026-03-07 -  09:05:04 by tester\r\n"
-            " \r\n"
-            "Basic Validation error(s)\r\n"
-            "Notice No : 1 : Error : Line No : 5  t_notice_type : Acceptables values are {GS1, GT1, GS2, GT2, GA1, "
-            "TB2, TB3, TB5}\r\n"
-            "\r\n");
+  EXPECT_EQ(
+      readFile(folder.file("bad_val_outcome.txt")),
+      "The input file has been validated with  LMZ Zamo HDLK Digital Version 3.07 / 13.01.2006\r\n"
+      "On 2026-03-07 -  09:05:04 by tester\r\n"
+      " \r\n"
+      "Basic Validation error(s)\r\n"
+      "Notice No : 1 : Error : Line No : 5  t_notice_type : Acceptables values are {GS1, GT1, GS2, GT2, GA1, "
+      "TB2, TB3, TB5}\r\n"
+      "\r\n");
   EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
   EXPECT_EQ(script.statuses.back(), "Basic validation has errors. Please correct and re-validate to proceed");
   EXPECT_TRUE(shell.screen.viewFileVisible);

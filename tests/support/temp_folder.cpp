@@ -20,7 +20,9 @@ TempFolder::~TempFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
-std::string TempFolder::file(std::string_view name) const { return path_ + "/" + std::string(name); }
+std::string TempFolder::file(std::string_view name) const {
+  return path_ + "/" + std::string(name);
+}
 
 std::string TempFolder::write(std::string_view name, std::string_view content) const {
   const std::string path = file(name);
