@@ -11,6 +11,6 @@ mkdir -p "$work"
 cp examples/*.txt examples/*.upd "$work"
 echo "No display: checking copies of the example files in $work."
 status=0
-"$bin/zamo-kv19-batch" check --level 1 "$work"/*.txt "$work"/*.upd 2>"$work/messages.log" || status=$?
+"$bin/zamo-kv19-batch" check --level 2 "$work"/*.txt "$work"/*.upd 2>"$work/messages.log" || status=$?
 echo "Reports stand beside the files, as the third column tells; messages are in $work/messages.log."
 [ "$status" -le 1 ]

@@ -21,20 +21,19 @@ bool isBlank(std::string_view text) {
   return text.find_first_not_of(" \t\r\n;") == std::string_view::npos;
 }
 
+RunTimeError notOneSelect() { return {kInvalidArgument, "A recordset takes one SELECT and nothing else"}; }
+
 Statement prepareSelect(const std::string& sql, sqlite3* database) {
+  // Looked at before the engine sees it: a PRAGMA takes effect when it is prepared.
+  if (!equalsIgnoringCase(trimText(sql).substr(0, 6), "SELECT")) throw notOneSelect();
   sqlite3_stmt* prepared = nullptr;
   const char* tail = nullptr;
-  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) !=
-      SQLITE_OK) {
+  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) != SQLITE_OK) {
     throw engineError(database);
   }
   Statement statement(prepared);
-  const bool isSelect = statement != nullptr && sqlite3_column_count(prepared) > 0 &&
-                        equalsIgnoringCase(trimText(sql).substr(0, 6), "SELECT") &&
-                        sqlite3_stmt_readonly(prepared) != 0;
-  if (!isSelect || !isBlank({tail, static_cast<std::size_t>(sql.c_str() + sql.size() - tail)})) {
-    throw RunTimeError{kInvalidArgument, "A recordset takes one SELECT and nothing else"};
-  }
+  const bool isWhole = isBlank({tail, static_cast<std::size_t>(sql.c_str() + sql.size() - tail)});
+  if (!isWhole || sqlite3_stmt_readonly(prepared) == 0) throw notOneSelect();
   return statement;
 }
 

@@ -5,13 +5,10 @@
 namespace zamo {
 
 void resetNtc(NtcRec& ntc) {
-  resetNtcMain(ntc);
-  resetPoint(ntc.op_hours);
-  resetCoordList(ntc.coord);
-  for (auto* values : {&ntc.ant_diagr_v, &ntc.ant_diagr_h, &ntc.ant_hgt}) {
-    for (AzmValueRec& value : *values) resetPoint(value);
-  }
-  resetDigital(ntc.digital);
+  NtcRec fresh;
+  fresh.t_adm = std::move(ntc.t_adm);
+  fresh.kept_spare = std::move(ntc.kept_spare);
+  ntc = std::move(fresh);
 }
 
 void resetNtcMain(NtcRec& ntc) {

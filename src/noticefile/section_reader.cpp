@@ -122,14 +122,21 @@ bool holdsNumber(std::span<const std::string> ids, std::string_view value) {
                      [number](const std::string& id) { return leadingNumber(id) == number; });
 }
 
+void placeContourId(NoticeReading& notice, std::string_view value) {
+  auto& places = notice.section.ntc.digital.allot.t_contour_id;
+  if (notice.contourIds == places.size()) {
+    notice.messages += duplicateKey(notice.section);
+  } else {
+    places[notice.contourIds++] = value;
+  }
+}
+
 void addContourIdOfAllotment(NoticeReading& notice, std::string_view value) {
   auto& places = notice.section.ntc.digital.allot.t_contour_id;
   if (holdsNumber(std::span(places).first(notice.contourIds), value)) {
     notice.messages += duplicateContourId(notice.section);
-  } else if (notice.contourIds == places.size()) {
-    notice.messages += duplicateKey(notice.section);
   } else {
-    places[notice.contourIds++] = value;
+    placeContourId(notice, value);
   }
 }
 
@@ -163,8 +170,7 @@ void settleBufferedContourIds(NoticeReading& notice) {
   NtcRec& ntc = notice.section.ntc;
   auto& buffer = notice.bufferedContourIds;
   if (ntc.t_notice_type != "GA1") {
-    std::copy(buffer.begin(), buffer.end(), ntc.digital.allot.t_contour_id.begin());
-    notice.contourIds = buffer.size();
+    for (const std::string& id : buffer) placeContourId(notice, id);
   } else if (buffer.size() == 1) {
     ntc.digital.contour.t_contour_id = buffer.front();
     ntc.digital.contour.present = true;
@@ -332,17 +338,18 @@ std::string readPointSection(SectionReading& reading, PointRec& point) {
 
 std::string readCoordSection(SectionReading& reading, CoordListRec& coord) {
   coord = {};
-  coord.entries.resize(kCoordSlots);
   readSection(reading, {"</COORD>", "</COORDINATION>"}, [&](std::string_view key, std::string_view value) {
     if (key != "t_adm" || value.empty()) return;
     coord.present = true;
-    const auto tested = coord.entries.begin() + std::min<std::ptrdiff_t>(coord.count, kCoordSlotsTested);
+    const auto count = static_cast<std::size_t>(coord.count);
+    const auto tested = std::span(coord.entries).first(std::min(count, kCoordSlotsTested));
     const auto isValue = [value](const CoordEntryRec& entry) { return entry.adm == value; };
-    if (std::any_of(coord.entries.begin(), tested, isValue)) return;
-    if (static_cast<std::size_t>(coord.count) == kCoordSlots) throwOutOfRange();
-    coord.entries[static_cast<std::size_t>(coord.count++)].adm = value;
+    if (std::any_of(tested.begin(), tested.end(), isValue)) return;
+    if (count == kCoordSlots) throwOutOfRange();
+    coord.entries[count].adm = value;
+    ++coord.count;
+    coord.entries.emplace_back();
   });
-  coord.entries.resize(static_cast<std::size_t>(coord.count) + 1);
   return {};
 }
 

@@ -14,7 +14,7 @@ std::string_view fileName(std::string_view path) { return path.substr(path.rfind
 
 }  // namespace
 
-MessageListing::MessageListing(std::string_view trigger, const std::source_location& where) noexcept
+MessageListing::MessageListing(std::string_view trigger, SourcePlace where) noexcept
     : trigger_(trigger), where_(where), next_(lastListing) {
   lastListing = this;
 }
@@ -23,14 +23,14 @@ void MessageListing::forEach(const MessageSink& sink) {
   std::vector<const MessageListing*> listings;
   for (const MessageListing* one = lastListing; one != nullptr; one = one->next_) listings.push_back(one);
   std::sort(listings.begin(), listings.end(), [](const MessageListing* a, const MessageListing* b) {
-    return std::tuple(fileName(a->where_.file_name()), a->where_.line()) <
-           std::tuple(fileName(b->where_.file_name()), b->where_.line());
+    return std::tuple(fileName(a->where_.file), a->where_.line) <
+           std::tuple(fileName(b->where_.file), b->where_.line);
   });
   for (const MessageListing* one : listings) one->lister_(*one, sink);
 }
 
 void MessageListing::give(std::string_view words, const MessageSink& sink) const {
-  if (!words.empty()) sink({fileName(where_.file_name()), trigger_, words});
+  if (!words.empty()) sink({fileName(where_.file), trigger_, words});
 }
 
 std::string Message::filled(std::initializer_list<std::string_view> values) const {

@@ -3,7 +3,7 @@
 
 #include <functional>
 #include <initializer_list>
-#include <source_location>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,6 +14,12 @@ struct ListedMessage {
   std::string_view trigger;
   std::string_view words;
 };
+// Where an object is made. The standard's own is not in every compiler that builds this.
+struct SourcePlace {
+  const char* file = "";
+  unsigned line = 0;
+};
+
 using MessageSink = std::function<void(const ListedMessage&)>;
 
 // One entry of the list of all messages. Entries are objects of static life.
@@ -26,7 +32,7 @@ class MessageListing {
   static void forEach(const MessageSink& sink);
 
  protected:
-  MessageListing(std::string_view trigger, const std::source_location& where) noexcept;
+  MessageListing(std::string_view trigger, SourcePlace where) noexcept;
   ~MessageListing() = default;
 
   using Lister = void (*)(const MessageListing& listing, const MessageSink& sink);
@@ -35,7 +41,7 @@ class MessageListing {
 
  private:
   std::string_view trigger_;
-  std::source_location where_;
+  SourcePlace where_;
   Lister lister_ = nullptr;
   const MessageListing* next_;
 };
@@ -44,7 +50,7 @@ class MessageListing {
 class Message : public MessageListing {
  public:
   Message(std::string_view trigger, std::string_view words,
-          const std::source_location& where = std::source_location::current()) noexcept
+          SourcePlace where = {__builtin_FILE(), __builtin_LINE()}) noexcept
       : MessageListing(trigger, where), words_(words) {
     setLister([](const MessageListing& listing, const MessageSink& sink) {
       const auto& message = static_cast<const Message&>(listing);
@@ -64,7 +70,7 @@ class TableMessages : public MessageListing {
  public:
   template <typename Row, std::size_t Count>
   TableMessages(std::string_view trigger, const Row (&rows)[Count],
-                const std::source_location& where = std::source_location::current()) noexcept
+                SourcePlace where = {__builtin_FILE(), __builtin_LINE()}) noexcept
       : MessageListing(trigger, where), rows_(rows) {
     setLister([](const MessageListing& listing, const MessageSink& sink) {
       const auto& table = static_cast<const TableMessages&>(listing);

@@ -1,6 +1,7 @@
 #include "validation/allotment_rules.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/numbers.h"
 #include "platform/run_time_error.h"

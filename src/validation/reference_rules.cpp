@@ -1,5 +1,8 @@
 #include "validation/reference_rules.h"
 
+#include <algorithm>
+#include <span>
+
 #include "platform/text.h"
 #include "validation/ref_data.h"
 #include "validation/rule_report.h"
@@ -41,7 +44,8 @@ void checkGeoArea(RuleReport& report, const NtcRec& ntc) {
 
 void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<std::string_view> types) {
   if (!isAnyType(ntc, types) || !ntc.coord.present) return;
-  for (const CoordEntryRec& entry : ntc.coord.entries) {
+  const auto last = std::min(static_cast<std::size_t>(ntc.coord.count) + 1, ntc.coord.entries.size());
+  for (const CoordEntryRec& entry : std::span(ntc.coord.entries).first(last)) {
     if (entry.adm.empty()) continue;
     if (!isKv19Administration(entry.adm)) report.fatal(kCoordUnknown, {entry.adm});
     if (equalsIgnoringCase(entry.adm, ntc.t_adm)) report.fatal(kCoordOwn, {entry.adm});

@@ -100,6 +100,69 @@ TEST_F(Pipeline, a_failed_basic_validation_reports_behind_the_five_header_items)
   EXPECT_FALSE(shell.screen.txtDbEnabled);
 }
 
+// A TB5 that passes as text and meets every rule.
+constexpr std::string_view kGoodNotice =
+    "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
+    "<NOTICE>\r\nt_notice_type = TB5\r\nt_fragment = KV19D\r\nt_action = SUPPRESS\r\nt_trg_adm_ref_id = A1\r\n</NOTICE>\r\n"
+    "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n";
+
+TEST_F(Pipeline, complete_validation_without_findings_leaves_no_report_and_hides_the_buttons) {
+  choose("good.txt", kGoodNotice);
+  shell.screen.viewFileVisible = true;
+  runTextCommand(shell, kCompleteWithoutGeo);
+  EXPECT_FALSE(std::filesystem::exists(folder.file("good_val_outcome.txt")));
+  EXPECT_FALSE(shell.screen.viewFileVisible);
+  EXPECT_FALSE(shell.screen.reValVisible);
+  EXPECT_THAT(script.boxes, IsEmpty());
+  EXPECT_THAT(script.statuses,
+              ElementsAre("Checking the File format. Please be patient....",
+                          "Basic validation is running. Please be patient....", "Notice no : 1",
+                          "Complete validation without geo coordinates is running. Please be patient....",
+                          "Complete validation without Geographic validation : Notice no : 1"));
+  EXPECT_EQ(script.hourglasses, 0);
+}
+
+TEST_F(Pipeline, complete_validation_reports_behind_two_lines_and_keeps_the_menus_enabled) {
+  choose("bad.txt", kGoodFile);
+  runTextCommand(shell, kCompleteWithoutGeo);
+  EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")),
+            "Basic Validation OK\r\n"
+            "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP\r\n"
+            "FATAL ERROR : \r\n"
+            "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  :  t_action is a mandatory value\r\n"
+            "FATAL ERROR : \r\n"
+            "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  :  t_fragment is a mandatory value\r\n"
+            "FATAL ERROR : \r\n"
+            "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  : t_trg_adm_ref_id is a mandatory value\r\n"
+            "\r\n"
+            "\r\n");
+  EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
+  EXPECT_EQ(script.statuses.back(), "Complete validation without geo coordinates has error(s).");
+  EXPECT_TRUE(shell.screen.viewFileVisible);
+  EXPECT_TRUE(shell.screen.reValVisible);
+  EXPECT_TRUE(shell.screen.queryEnabled);
+  EXPECT_TRUE(shell.screen.txtDbEnabled);
+}
+
+TEST_F(Pipeline, a_file_of_bad_values_never_reaches_complete_validation) {
+  choose("bad.txt", kBadValue);
+  runTextCommand(shell, kCompleteWithoutGeo);
+  EXPECT_EQ(script.statuses.back(), "Basic validation has errors. Please correct and re-validate to proceed");
+}
+
+TEST_F(Pipeline, an_administration_with_a_quote_breaks_the_lookup_and_ends_the_stage_with_its_box) {
+  shell.run.NtcFileName = folder.write("quote.txt",
+                                       "<HEAD>\r\nt_adm = F'\r\n</HEAD>\r\n"
+                                       "<NOTICE>\r\nt_notice_type = TB2\r\nt_addr_code = A\r\n</NOTICE>\r\n"
+                                       "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n");
+  shell.run.ValLevel = kCompleteWithoutGeo;
+  const Verdict verdict = judgeFile(shell);
+  EXPECT_EQ(verdict.failedAt, Stage::complete);
+  EXPECT_TRUE(verdict.machineFailed);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].title, "Backend Validation");
+}
+
 TEST_F(Pipeline, a_report_replaces_the_old_one_and_a_stale_one_stays_after_a_clean_run) {
   folder.write("a_val_outcome.txt", "old");
   const std::string file = choose("a.txt", kBadValue);
