@@ -15,6 +15,8 @@
 namespace zamo {
 namespace {
 
+constexpr std::size_t kCopyBuffer = 256 * std::size_t{1024};
+
 class OpenFile {
  public:
   OpenFile(std::string path, int flags)
@@ -25,6 +27,16 @@ class OpenFile {
   OpenFile& operator=(const OpenFile&) = delete;
   ~OpenFile() {
     if (descriptor_ >= 0) ::close(descriptor_);
+  }
+
+  // The next bytes, read into `part`; none at the end.
+  std::string_view read(std::string& part) const {
+    ssize_t count = 0;
+    do {
+      count = ::read(descriptor_, part.data(), part.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) throw fileError(errno, path_);
+    return {part.data(), static_cast<std::size_t>(count)};
   }
 
   void write(std::string_view content) {
@@ -62,11 +74,32 @@ void replaceFile(const std::string& path, std::string_view content) {
     OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
     file.write(content);
     file.closeFlushed();
-    if (std::rename(beside.c_str(), path.c_str()) != 0) throw fileError(errno, path);
+    renameFile(beside, path);
   } catch (const RunTimeError&) {
     ::unlink(beside.c_str());
     throw;
   }
+}
+
+void copyFile(const std::string& from, const std::string& destination) {
+  OpenFile source(from, O_RDONLY | O_CLOEXEC);
+  try {
+    OpenFile target(destination, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+    std::string part(kCopyBuffer, '\0');
+    for (std::string_view content; !(content = source.read(part)).empty();) target.write(content);
+    target.closeFlushed();
+  } catch (const RunTimeError&) {
+    ::unlink(destination.c_str());
+    throw;
+  }
+}
+
+void removeFile(const std::string& path) {
+  if (::unlink(path.c_str()) != 0 && errno != ENOENT) throw fileError(errno, path);
+}
+
+void renameFile(const std::string& from, const std::string& to) {
+  if (std::rename(from.c_str(), to.c_str()) != 0) throw fileError(errno, to);
 }
 
 void appendToFile(const std::string& path, std::string_view content) {

@@ -15,6 +15,14 @@ bool fileExists(const std::string& path, const Yield& yield = {});
 // On failure the old file stands as it was and a RunTimeError is thrown.
 void replaceFile(const std::string& path, std::string_view content);
 
+// Copies the bytes of a file and flushes them to the disk. On failure nothing is left at `destination`, and a
+// RunTimeError is thrown.
+void copyFile(const std::string& from, const std::string& destination);
+
+// Either throws RunTimeError. A file that isn't there is removed already.
+void removeFile(const std::string& path);
+void renameFile(const std::string& from, const std::string& to);
+
 // Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
 void appendToFile(const std::string& path, std::string_view content);
 
