@@ -8,23 +8,6 @@
 namespace zamo {
 namespace {
 
-// The codes in the order of their key blocks.
-// clang-format off
-constexpr std::string_view kNumberedAdministrations[] = {
-    "AFS", "AGL", "ALB", "ALG", "AND", "ARM", "ARS", "AUT", "AZE", "BDI", "BEL", "BEN", "BFA", "BHR",
-    "BIH", "BLR", "BOT", "BUL", "CAF", "CME", "COD", "COG", "COM", "CPV", "CTI", "CVA", "CYP", "CZE",
-    "D", "DJI", "DNK", "E", "EGY", "ERI", "EST", "ETH", "F", "FIN", "G", "GAB", "GEO", "GHA", "GMB",
-    "GNB", "GNE", "GRC", "GUI", "HNG", "HOL", "HRV", "I", "IRL", "IRN", "IRQ", "ISL", "ISR", "JOR",
-    "KAZ", "KEN", "KGZ", "KWT", "LBN", "LBR", "LBY", "LIE", "LSO", "LTU", "LUX", "LVA", "MAU", "MCO",
-    "MDA", "MDG", "MKD", "MLI", "MLT", "MOZ", "MRC", "MTN", "MWI", "NGR", "NIG", "NMB", "NOR", "OMA",
-    "POL", "POR", "PSE", "QAT", "ROU", "RRW", "RUS", "S", "SCG", "SDN", "SEN", "SEY", "SMR", "SOM",
-    "SRL", "STP", "SUI", "SVK", "SVN", "SWZ", "SYR", "TCD", "TGO", "TJK", "TKM", "TUN", "TUR", "TZA",
-    "UAE", "UGA", "UKR", "UZB", "YEM", "ZMB", "ZWE"};
-// clang-format on
-
-constexpr std::int32_t kFirstBase = 80100000;
-constexpr std::int32_t kBlockSize = 100000;
-
 constexpr std::string_view kOfSpain[] = {"CNR", "E"};
 constexpr std::string_view kOfFrance[] = {"F", "MYT", "REU"};
 constexpr std::string_view kOfUnitedKingdom[] = {"ASC", "G", "GIB", "SHN", "TRC"};
@@ -120,7 +103,6 @@ static_assert(eightMhzCountriesA[9] == "UZB" && eightMhzCountriesA[10].empty());
 static_assert(eightMhzCountriesB[11] == "TZA" && eightMhzCountriesB[12].empty());
 static_assert(eightMhzCountriesC[16] == "TGO" && eightMhzCountriesC[17].empty());
 static_assert(dvbtUhfFrequencies[48] == 858 && dvbtUhfFrequencies[49] == 0);
-static_assert(std::size(kNumberedAdministrations) == 120);
 
 bool isKv19Administration(std::string_view code) {
   return findIgnoringCase(kv19Administrations, code) != nullptr;
@@ -148,12 +130,6 @@ bool isEightMhzCountryB(std::string_view code) {
 
 bool isEightMhzCountryC(std::string_view code) {
   return holds(eightMhzCountriesC, code);
-}
-
-std::int32_t admNumericBase(std::string_view code) {
-  const std::string_view* found = findIgnoringCase(kNumberedAdministrations, code);
-  if (found == nullptr) return 0;
-  return kFirstBase + kBlockSize * static_cast<std::int32_t>(found - kNumberedAdministrations);
 }
 
 }  // namespace zamo

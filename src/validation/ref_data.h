@@ -2,8 +2,9 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string_view>
+
+#include "model/adm_numeric_base.h"
 
 namespace zamo {
 
@@ -31,9 +32,5 @@ bool isSevenMhzCountry(std::string_view code);
 bool isEightMhzCountryA(std::string_view code);
 bool isEightMhzCountryB(std::string_view code);
 bool isEightMhzCountryC(std::string_view code);
-
-// The base of an administration's block of 100000 keys in the working database, in any case; 0 for an
-// unlisted code.
-std::int32_t admNumericBase(std::string_view code);
 
 }  // namespace zamo

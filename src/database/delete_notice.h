@@ -1,0 +1,26 @@
+// Removing notices and contours from the working database.
+#pragma once
+
+#include <cstdint>
+
+#include "database/connection.h"
+#include "platform/host.h"
+
+namespace zamo {
+
+// Each in one transaction. A deleted contour becomes a placeholder again, since allotments may link to it.
+void deleteNtcFromDB(const Host& host, std::int32_t key, Connection& connection);
+void deleteContourFromDB(const Host& host, std::int32_t contourkey, Connection& connection);
+
+// The parts of it, and what corrections delete, in the caller's transaction.
+bool deleteOneFromKv19Vorna(const Host& host, std::int32_t key, Connection& connection);
+bool deleteLinkSubArea(const Host& host, std::int32_t key, Connection& connection);
+bool deleteSubAreaLinks(const Host& host, std::int32_t allotkey, Connection& connection);
+void deleteContourOrph(const Host& host, std::int32_t contourkey, Connection& connection);
+bool deleteContourTable(const Host& host, std::int32_t contourkey, Connection& connection);
+bool deleteContourPointTable(const Host& host, std::int32_t contourkey, Connection& connection);
+bool deleteSubAreaTable(const Host& host, std::int32_t allotkey, Connection& connection);
+void deleteArt5TargetTable(const Host& host, std::int32_t key, Connection& connection);
+bool deleteFromAntDiagr(const Host& host, std::int32_t key, char polar, Connection& connection);
+
+}  // namespace zamo

@@ -1,0 +1,28 @@
+// The load of a validated notice file into the working database, with its test for duplicates and their report.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "database/connection.h"
+#include "model/ntc_rec.h"
+#include "noticefile/line_source.h"
+#include "platform/host.h"
+
+namespace zamo {
+
+struct LoadRun {
+  NtcRec& ntc;                     // the work area; its administration is that of the last <HEAD> read
+  const std::string& ntcFileName;  // the path, from which the report gets its name
+  std::string_view windowCaption;
+  // Opens a report for the user (path, head of the message when there is no viewer).
+  std::function<void(const std::string& path, std::string_view messageHead)> showReport;
+};
+
+// Reads the notices of the file to its end and stores each in a transaction of its own; a notice that repeats an entry
+// is stored only if the user says so. Gives the number of notices read, those left out or rolled back among them. A
+// failure of the reader is shown in the common error box and ends the load; earlier notices stay.
+std::int64_t readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load, Connection& connection);
+
+}  // namespace zamo
