@@ -20,9 +20,14 @@ struct LoadRun {
   std::function<void(const std::string& path, std::string_view messageHead)> showReport;
 };
 
+struct LoadResult {
+  std::int64_t noticesRead = 0;  // those left out or rolled back among them
+  bool complete = false;         // the whole file was read, and nothing was rolled back
+};
+
 // Reads the notices of the file to its end and stores each in a transaction of its own; a notice that repeats an entry
-// is stored only if the user says so. Gives the number of notices read, those left out or rolled back among them. A
-// failure of the reader is shown in the common error box and ends the load; earlier notices stay.
-std::int64_t readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load, Connection& connection);
+// is stored only if the user says so. A failure of the reader is shown in the common error box and ends the load;
+// earlier notices stay.
+LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load, Connection& connection);
 
 }  // namespace zamo

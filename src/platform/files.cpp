@@ -102,6 +102,11 @@ void renameFile(const std::string& from, const std::string& to) {
   if (std::rename(from.c_str(), to.c_str()) != 0) throw fileError(errno, to);
 }
 
+void writeFile(const std::string& path, std::string_view content) {
+  OpenFile file(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+  file.write(content);
+}
+
 void appendToFile(const std::string& path, std::string_view content) {
   OpenFile file(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC);
   file.write(content);

@@ -23,6 +23,9 @@ void copyFile(const std::string& from, const std::string& destination);
 void removeFile(const std::string& path);
 void renameFile(const std::string& from, const std::string& to);
 
+// Writes a file anew in place. Throws RunTimeError.
+void writeFile(const std::string& path, std::string_view content);
+
 // Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
 void appendToFile(const std::string& path, std::string_view content);
 

@@ -24,7 +24,7 @@ const Message kNoPublication("GA1: t_is_pub_req is given", " : t_is_pub_req shou
 
 // The number of test points as a notice tells it, 0 for none.
 double notifiedPoints(const NtcRec& ntc) {
-  return leadingNumber(ntc.digital.contour.t_nb_test_pts);
+  return std::trunc(leadingNumber(ntc.digital.contour.t_nb_test_pts));
 }
 
 // The points present among those that the number of test points counts.
