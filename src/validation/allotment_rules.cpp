@@ -1,11 +1,11 @@
 #include "validation/allotment_rules.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/numbers.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
+#include "validation/absent_fields.h"
 #include "validation/rule_report.h"
 
 namespace zamo {
@@ -21,21 +21,6 @@ const Message kNoTargetOfAdd("GT2, GS2, ADD: t_trg_adm_ref_id is given", " : t_t
 const Message kPointMissing("GA1: a test point is missing, a line for each", "All the coordinates of the test points are mandatory");
 const Message kNoPublication("GA1: t_is_pub_req is given", " : t_is_pub_req should not be notified under Art 5");
 // clang-format on
-
-// The number of test points as a notice tells it, 0 for none.
-double notifiedPoints(const NtcRec& ntc) {
-  return std::trunc(leadingNumber(ntc.digital.contour.t_nb_test_pts));
-}
-
-// The points present among those that the number of test points counts.
-int countNotifiedPointsPresent(const NtcRec& ntc) {
-  const auto& points = ntc.digital.contour.points;
-  int present = 0;
-  for (std::size_t i = 0; i < points.size() && static_cast<double>(i) < notifiedPoints(ntc); ++i) {
-    if (points[i].present) ++present;
-  }
-  return present;
-}
 
 // clang-format off
 constexpr MandatoryRow kMandatory[] = {
@@ -55,40 +40,40 @@ constexpr MandatoryRow kMandatoryForTelevision[] = {
 };
 
 constexpr AbsentRow kAbsent[] = {
-    {once<isGiven<&NtcRec::t_site_name>>,           " : t_site_name should not be notified for a "},
-    {once<isGiven<&NtcRec::t_site_alt>>,            " : t_site_alt should not be notified for a "},
-    {once<hasPosition>,                             " : t_long t_lat should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_h_dbw>>,           " : t_erp_h_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_v_dbw>>,           " : t_erp_v_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>,   " : t_erp_beam_tilt_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,     " : t_beam_tilt_angle should not be notified for a "},
-    {once<isGiven<&NtcRec::t_eff_hgtmax>>,          " : t_eff_hgtmax should not be notified for a "},
-    {once<isGiven<&NtcRec::t_hgt_agl>>,             " : t_hgt_agl should not be notified for a "},
-    {once<hasAntDiagrH>,                            " : <ANT_DIAGR_H> should not be notified for a "},
-    {once<hasAntDiagrV>,                            " : <ANT_DIAGR_V> should not be notified for a "},
-    {once<hasAntHgt>,                               " : <ANT_HGT> should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_associated_adm_allot_id>>, " : t_associated_adm_allot_id should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_associated_allot_sfn_id>>, " : t_associated_allot_sfn_id should not be notified for a "},
+    absent::site_name,
+    absent::site_alt,
+    absent::position,
+    absent::erp_h_dbw,
+    absent::erp_v_dbw,
+    absent::erp_beam_tilt_dbw,
+    absent::beam_tilt_angle,
+    absent::eff_hgtmax,
+    absent::hgt_agl,
+    absent::ant_diagr_h,
+    absent::ant_diagr_v,
+    absent::ant_hgt,
+    absent::associated_adm_allot_id,
+    absent::associated_allot_sfn_id,
 };
 
 constexpr AbsentRow kAbsentTestPoints[] = {
-    {once<isGivenInContour<&ContourRec::t_nb_test_pts>>, " : t_nb_test_pts should not be notified for a "},
-    {countNotifiedPointsPresent,                    " : t_long and t_lat should not be notified for a "},
+    absent::nb_test_pts,
+    absent::notified_test_points,
 };
 
 constexpr AbsentRow kFurtherAbsent[] = {
-    {once<isGiven<&NtcRec::t_assgn_code>>,          " : t_assgn_code should not be notified for a "},
-    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
-    {once<isGiven<&NtcRec::t_sys_var>>,             " : t_sys_var should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>, " : t_rx_mode should not be notified for a "},
-    {once<isGiven<&NtcRec::t_op_agcy>>,             " : t_op_agcy should not be notified for a "},
-    {once<isGiven<&NtcRec::t_d_inuse>>,             " : t_d_inuse should not be notified for a "},
-    {once<isGiven<&NtcRec::t_addr_code>>,           " : t_addr_code should not be notified for a "},
-    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_fr>>, " : t_op_hh_fr should not be notified for a "},
-    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_to>>, " : t_op_hh_to should not be notified for a "},
-    {once<isGiven<&NtcRec::t_remark_conds_met>>,    " : t_remarks_conds_met should not be notified for a "},
-    {once<isGiven<&NtcRec::t_is_resub>>,            " : t_is_resub should not be notified for a "},
-    {once<isGiven<&NtcRec::t_signed_commitment>>,   " : t_signed_commitment should not be notified for a "},
+    absent::assgn_code,
+    absent::contour_id,
+    absent::sys_var,
+    absent::rx_mode,
+    absent::op_agcy,
+    absent::d_inuse,
+    absent::addr_code,
+    absent::op_hh_fr,
+    absent::op_hh_to,
+    absent::remark_conds_met,
+    absent::is_resub,
+    absent::signed_commitment,
 };
 
 // The words of the first row lack what the rules of the key have.
@@ -98,36 +83,36 @@ constexpr MandatoryRow kMandatoryForContour[] = {
 };
 
 constexpr AbsentRow kAbsentForContour[] = {
-    {once<isGiven<&NtcRec::t_site_name>>,           " : t_site_name should not be notified for a "},
-    {once<isGiven<&NtcRec::t_site_alt>>,            " : t_site_alt should not be notified for a "},
-    {once<hasPosition>,                             " : t_long t_lat should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_h_dbw>>,           " : t_erp_h_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_v_dbw>>,           " : t_erp_v_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_eff_hgtmax>>,          " : t_eff_hgtmax should not be notified for a "},
-    {once<isGiven<&NtcRec::t_hgt_agl>>,             " : t_hgt_agl should not be notified for a "},
-    {once<hasCoord>,                                " : <COORD> or <COORDINATION> should not be notified for a "},
-    {once<hasAntDiagrH>,                            " : <ANT_DIAGR_H> should not be notified for a "},
-    {once<hasAntDiagrV>,                            " : <ANT_DIAGR_V> should not be notified for a "},
-    {once<hasAntHgt>,                               " : <ANT_HGT> should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_associated_adm_allot_id>>, " : t_associated_adm_allot_id should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_allot_name>>, " : t_allot_name should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_geo_area>>,   " : t_geo_area should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_nb_sub_areas>>, " : t_nb_sub_areas should not be notified for a "},
-    {countGivenContourIds,                          " : t_contour_id should not be notified for a "},
-    {once<isGiven<&NtcRec::t_sys_var>>,             " : t_sys_var should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>, " : t_rx_mode should not be notified for a "},
-    {once<isGiven<&NtcRec::t_op_agcy>>,             " : t_op_agcy should not be notified for a "},
-    {once<isGiven<&NtcRec::t_d_inuse>>,             " : t_d_inuse should not be notified for a "},
-    {once<isGiven<&NtcRec::t_addr_code>>,           " : t_addr_code should not be notified for a "},
-    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_fr>>, " : t_op_hh_fr should not be notified for a "},
-    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_to>>, " : t_op_hh_to should not be notified for a "},
-    {once<isGiven<&NtcRec::t_remark_conds_met>>,    " : t_remarks_conds_met should not be notified for a "},
-    {once<isGiven<&NtcRec::t_is_resub>>,            " : t_is_resub should not be notified for a "},
-    {once<isGiven<&NtcRec::t_signed_commitment>>,   " : t_signed_commitment should not be notified for a "},
-    {once<isGiven<&NtcRec::t_freq_assgn>>,          " : t_freq_assgn should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>,   " : t_erp_beam_tilt_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,     " : t_beam_tilt_angle should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_typ_ref_netwk>>, " : t_typ_ref_netwk should not be notified for a "},
+    absent::site_name,
+    absent::site_alt,
+    absent::position,
+    absent::erp_h_dbw,
+    absent::erp_v_dbw,
+    absent::eff_hgtmax,
+    absent::hgt_agl,
+    absent::coord,
+    absent::ant_diagr_h,
+    absent::ant_diagr_v,
+    absent::ant_hgt,
+    absent::associated_adm_allot_id,
+    absent::allot_name,
+    absent::geo_area,
+    absent::nb_sub_areas,
+    absent::contour_ids,
+    absent::sys_var,
+    absent::rx_mode,
+    absent::op_agcy,
+    absent::d_inuse,
+    absent::addr_code,
+    absent::op_hh_fr,
+    absent::op_hh_to,
+    absent::remark_conds_met,
+    absent::is_resub,
+    absent::signed_commitment,
+    absent::freq_assgn,
+    absent::erp_beam_tilt_dbw,
+    absent::beam_tilt_angle,
+    absent::typ_ref_netwk,
 };
 
 struct PlanEntryRow {

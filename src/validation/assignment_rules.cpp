@@ -5,6 +5,7 @@
 
 #include "platform/numbers.h"
 #include "platform/text.h"
+#include "validation/absent_fields.h"
 #include "validation/rule_report.h"
 
 namespace zamo {
@@ -182,30 +183,30 @@ constexpr MandatoryRow kMandatoryUnderArt5[] = {
 };
 
 constexpr AbsentRow kNoNetworkType[] = {
-    {once<isGivenInAllot<&AllotRec::t_typ_ref_netwk>>, "t_typ_ref_netwk should not be notified for a "},
+    absent::typ_ref_netwk,
 };
 
 constexpr AbsentRow kAbsentAllotment[] = {
-    {once<isGivenInAllot<&AllotRec::t_allot_name>>,    " : t_allot_name should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_geo_area>>,      " : t_geo_area should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_nb_sub_areas>>,  " : t_nb_sub_areas should not be notified for a "},
-    {countGivenContourIds,                             " : t_contour_id should not be notified for a "},
+    absent::allot_name,
+    absent::geo_area,
+    absent::nb_sub_areas,
+    absent::contour_ids,
 };
 
 constexpr AbsentRow kAbsentTestPoints[] = {
-    {once<isGivenInContour<&ContourRec::t_nb_test_pts>>, " : t_nb_test_pts should not be notified for a "},
-    {countPointsPresent,                               " : t_long and t_lat should not be notified for a "},
+    absent::nb_test_pts,
+    absent::test_points,
 };
 
 constexpr AbsentRow kAbsentContour[] = {
-    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
+    absent::contour_id,
 };
 
 constexpr AbsentRow kAbsentForSound[] = {
-    {once<isGiven<&NtcRec::t_sys_var>>,                " : t_sys_var should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>,   " : t_rx_mode should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>,      " : t_erp_beam_tilt_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,        " : t_beam_tilt_angle should not be notified for a "},
+    absent::sys_var,
+    absent::rx_mode,
+    absent::erp_beam_tilt_dbw,
+    absent::beam_tilt_angle,
 };
 
 constexpr AbsentRow kAbsentUnderArt4[] = {

@@ -1,6 +1,7 @@
 #include "validation/rule_report.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -95,6 +96,19 @@ int countPointsPresent(const NtcRec& ntc) {
   const auto& points = ntc.digital.contour.points;
   return static_cast<int>(
       std::count_if(points.begin(), points.end(), [](const PointRec& point) { return point.present; }));
+}
+
+double notifiedPoints(const NtcRec& ntc) {
+  return std::trunc(leadingNumber(ntc.digital.contour.t_nb_test_pts));
+}
+
+int countNotifiedPointsPresent(const NtcRec& ntc) {
+  const auto& points = ntc.digital.contour.points;
+  int present = 0;
+  for (std::size_t i = 0; i < points.size() && static_cast<double>(i) < notifiedPoints(ntc); ++i) {
+    if (points[i].present) ++present;
+  }
+  return present;
 }
 
 bool isWithin(std::string_view text, double lowest, double highest) {

@@ -90,6 +90,10 @@ bool hasCoord(const NtcRec& ntc);
 
 int countGivenContourIds(const NtcRec& ntc);
 int countPointsPresent(const NtcRec& ntc);
+// The number of test points as a notice tells it, cut to a whole number; 0 for none.
+double notifiedPoints(const NtcRec& ntc);
+// The points present among those that the notified number counts.
+int countNotifiedPointsPresent(const NtcRec& ntc);
 
 // Within both bounds, read as the leading number.
 bool isWithin(std::string_view text, double lowest, double highest);

@@ -1,6 +1,7 @@
 #include "validation/tb_rules.h"
 
 #include "platform/text.h"
+#include "validation/absent_fields.h"
 #include "validation/rule_report.h"
 
 namespace zamo {
@@ -31,62 +32,62 @@ constexpr MandatoryRow kMandatoryForTb2[] = {
 };
 
 constexpr AbsentRow kAbsent[] = {
-    {once<isGiven<&NtcRec::t_adm_ref_id>>,        " : t_adm_ref_id should not be notified for a "},
-    {once<isGiven<&NtcRec::t_site_name>>,         " : t_site_name should not be notified for a "},
-    {once<isGiven<&NtcRec::t_site_alt>>,          " : t_site_alt should not be notified for a "},
-    {once<hasPosition>,                           " : t_long t_lat should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_h_dbw>>,         " : t_erp_h_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_v_dbw>>,         " : t_erp_v_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_erp_beam_tilt_dbw>>, " : t_erp_beam_tilt_dbw should not be notified for a "},
-    {once<isGiven<&NtcRec::t_beam_tilt_angle>>,   " : t_beam_tilt_angle should not be notified for a "},
-    {once<isGiven<&NtcRec::t_eff_hgtmax>>,        " : t_eff_hgtmax should not be notified for a "},
-    {once<isGiven<&NtcRec::t_hgt_agl>>,           " : t_hgt_agl should not be notified for a "},
+    absent::adm_ref_id,
+    absent::site_name,
+    absent::site_alt,
+    absent::position,
+    absent::erp_h_dbw,
+    absent::erp_v_dbw,
+    absent::erp_beam_tilt_dbw,
+    absent::beam_tilt_angle,
+    absent::eff_hgtmax,
+    absent::hgt_agl,
 };
 
 constexpr AbsentRow kAbsentExceptInTb3[] = {
-    {once<hasCoord>,                              " : <COORD> or <COORDINATION> should not be notified for a "},
+    absent::coord,
 };
 
 constexpr AbsentRow kAbsentAntenna[] = {
-    {once<hasAntDiagrH>,                          " : <ANT_DIAGR_H> should not be notified for a "},
-    {once<hasAntDiagrV>,                          " : <ANT_DIAGR_V> should not be notified for a "},
-    {once<hasAntHgt>,                             " : <ANT_HGT> should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_associated_adm_allot_id>>, " : t_associated_adm_allot_id should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_associated_allot_sfn_id>>, " : t_associated_allot_sfn_id should not be notified for a "},
+    absent::ant_diagr_h,
+    absent::ant_diagr_v,
+    absent::ant_hgt,
+    absent::associated_adm_allot_id,
+    absent::associated_allot_sfn_id,
 };
 
 constexpr AbsentRow kAbsentTestPoints[] = {
-    {once<isGivenInContour<&ContourRec::t_nb_test_pts>>, " : t_nb_test_pts should not be notified for a "},
-    {countPointsPresent,                          " : t_long and t_lat should not be notified for a "},
+    absent::nb_test_pts,
+    absent::test_points,
 };
 
 constexpr AbsentRow kAbsentSystem[] = {
-    {once<isGiven<&NtcRec::t_assgn_code>>,        " : t_assgn_code should not be notified for a "},
-    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
-    {once<isGiven<&NtcRec::t_sys_var>>,           " : t_sys_var should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_rx_mode>>, " : t_rx_mode should not be notified for a "},
+    absent::assgn_code,
+    absent::contour_id,
+    absent::sys_var,
+    absent::rx_mode,
 };
 
 constexpr AbsentRow kAbsentExceptInTb2[] = {
-    {once<isGiven<&NtcRec::t_op_agcy>>,           " : t_op_agcy should not be notified for a "},
-    {once<isGiven<&NtcRec::t_d_inuse>>,           " : t_d_inuse should not be notified for a "},
-    {once<isGiven<&NtcRec::t_addr_code>>,         " : t_addr_code should not be notified for a "},
-    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_fr>>, " : t_op_hh_fr should not be notified for a "},
-    {once<isGiven<&NtcRec::op_hours, &OpHoursRec::t_op_hh_to>>, " : t_op_hh_to should not be notified for a "},
+    absent::op_agcy,
+    absent::d_inuse,
+    absent::addr_code,
+    absent::op_hh_fr,
+    absent::op_hh_to,
 };
 
 constexpr AbsentRow kAbsentDeclarations[] = {
-    {once<isGiven<&NtcRec::t_remark_conds_met>>,  " : t_remarks_conds_met should not be notified for a "},
-    {once<isGiven<&NtcRec::t_is_resub>>,          " : t_is_resub should not be notified for a "},
-    {once<isGiven<&NtcRec::t_signed_commitment>>, " : t_signed_commitment should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_typ_ref_netwk>>, " : t_typ_ref_netwk should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_allot_name>>, " : t_allot_name should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_geo_area>>, " : t_geo_area should not be notified for a "},
-    {once<isGivenInAllot<&AllotRec::t_nb_sub_areas>>, " : t_nb_sub_areas should not be notified for a "},
-    {countGivenContourIds,                        " : t_contour_id should not be notified for a "},
-    {once<isGivenInContour<&ContourRec::t_contour_id>>, " : t_contour_id should not be notified for a "},
-    {once<isGiven<&NtcRec::t_is_pub_req>>,        " : t_is_pub_req should not be notified for a "},
-    {once<isGivenInDigital<&DigitalRec::t_sfn_id>>, " : t_sfn_id should not be notified for a "},
+    absent::remark_conds_met,
+    absent::is_resub,
+    absent::signed_commitment,
+    absent::typ_ref_netwk,
+    absent::allot_name,
+    absent::geo_area,
+    absent::nb_sub_areas,
+    absent::contour_ids,
+    absent::contour_id,
+    absent::is_pub_req,
+    absent::sfn_id,
 };
 
 const TableMessages kListedTarget("TB3, TB5: the field is empty", kTarget);
