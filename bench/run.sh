@@ -80,3 +80,4 @@ awk -v check="$(median check_small)" -v completely="$(median check_completely)" 
     row("level 2, peak memory, 200,000 notices", sprintf("%.1f MB", large2 / 1024), "under 40 MB")
     row("level 2, the second against the first", sprintf("%+.1f %%", 100 * (large2 / small2 - 1)), "within 5 %")
   }'
+"$here/load.sh" "$(dirname "$program")" "$input"

@@ -12,7 +12,8 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 python3 "$make_input" --notices "$notices" --text-only "$work/input" >/dev/null
 cp "$work/input/notices-$notices.txt" "$work/notices.txt"
-load() { "$program" load --level 1 --yes "$work/notices.txt" >"$work/out.log" 2>"$work/err.log"; }
+arguments=(load --level 1 --yes "$work/notices.txt")
+load() { "$program" "${arguments[@]}" >"$work/out.log" 2>"$work/err.log"; }
 
 ask() { sqlite3 "$work/notices.mdb" "$1"; }
 
@@ -29,7 +30,8 @@ heights_each=36
 killed=0
 for ((kill = 1; kill <= kills; ++kill)); do
   pause=$(printf '%d.%06d' 0 $((RANDOM * 32768 % (whole > 999999 ? 999999 : whole) + RANDOM % 1000)))
-  load &
+  # Not through the function: its shell would be killed and the program live on.
+  "$program" "${arguments[@]}" >"$work/out.log" 2>"$work/err.log" &
   loader=$!
   sleep "$pause"
   if kill -9 "$loader" 2>/dev/null; then killed=$((killed + 1)); fi

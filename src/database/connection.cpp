@@ -73,7 +73,9 @@ void Connection::BeginTrans() {
   if (inTransaction_) throw RunTimeError{kInvalidArgument, "A transaction is open already"};
   // With the engine's usual journal each notice would wait for the disk three times. With this one a killed process
   // loses nothing that was committed; a power cut may lose the last notices, never half of one.
-  if (!journalIsSet_) run("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL");
+  if (!journalIsSet_) {
+    run("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 4000; PRAGMA cache_size = -32000");
+  }
   journalIsSet_ = true;
   run("BEGIN IMMEDIATE");
   inTransaction_ = true;
@@ -92,12 +94,14 @@ void Connection::RollbackTrans() {
 }
 
 void Connection::openTable(std::string_view name) {
+  if (openedTables_.contains(name)) return;
   std::string quoted;
   for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
   const std::string sql = "SELECT * FROM \"" + utf8FromText(quoted) + "\"";
   sqlite3_stmt* prepared = nullptr;
   if (sqlite3_prepare_v2(handle(), sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK) throw engineError(handle());
   const Statement statement(prepared);
+  openedTables_.emplace(name);
 }
 
 sqlite3_stmt* Connection::changing(const std::string& sql) {

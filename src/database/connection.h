@@ -1,7 +1,9 @@
 // The one door to SQLite: a connection to a database file.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -39,7 +41,8 @@ class Connection {
   void CommitTrans();
   void RollbackTrans();
 
-  // Opens a table for adding rows and closes it again. Throws when there is no such table.
+  // Opens a table for adding rows and closes it again. Throws when there is no such table. Tables neither come nor go
+  // while a database is open, so each is looked for once.
   void openTable(std::string_view name);
 
   // A prepared statement that changes data. It is kept with the connection and comes back reset.
@@ -57,6 +60,7 @@ class Connection {
   std::string path_;
   std::unique_ptr<sqlite3, Close> database_;
   std::unordered_map<std::string, Statement> changing_;
+  std::set<std::string, std::less<>> openedTables_;
   bool inTransaction_ = false;
   bool journalIsSet_ = false;
 };

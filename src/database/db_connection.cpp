@@ -29,8 +29,13 @@ bool holdsTable(Connection& connection, std::string_view table) {
 void copyDatabaseFile(const std::string& from, const std::string& destination) {
   const std::string beside = destination + ".part";
   copyFile(from, beside);
-  for (const char* ending : {"", "-journal", "-wal", "-shm"}) removeFile(destination + ending);
-  renameFile(beside, destination);
+  try {
+    for (const char* ending : {"", "-journal", "-wal", "-shm"}) removeFile(destination + ending);
+    renameFile(beside, destination);
+  } catch (const RunTimeError&) {
+    removeFile(beside);
+    throw;
+  }
 }
 
 bool tellOldStructure(const Host& host) {

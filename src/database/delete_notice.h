@@ -12,15 +12,19 @@ namespace zamo {
 void deleteNtcFromDB(const Host& host, std::int32_t key, Connection& connection);
 void deleteContourFromDB(const Host& host, std::int32_t contourkey, Connection& connection);
 
-// The parts of it, and what corrections delete, in the caller's transaction.
+// The parts of it, and what corrections delete, in the caller's transaction. Errors in the links of one
+// allotment are shown by deleteLinkSubArea.
 bool deleteOneFromKv19Vorna(const Host& host, std::int32_t key, Connection& connection);
 bool deleteLinkSubArea(const Host& host, std::int32_t key, Connection& connection);
 bool deleteSubAreaLinks(const Host& host, std::int32_t allotkey, Connection& connection);
-void deleteContourOrph(const Host& host, std::int32_t contourkey, Connection& connection);
+bool deleteContourOrph(const Host& host, std::int32_t contourkey, Connection& connection);
 bool deleteContourTable(const Host& host, std::int32_t contourkey, Connection& connection);
 bool deleteContourPointTable(const Host& host, std::int32_t contourkey, Connection& connection);
 bool deleteSubAreaTable(const Host& host, std::int32_t allotkey, Connection& connection);
 void deleteArt5TargetTable(const Host& host, std::int32_t key, Connection& connection);
 bool deleteFromAntDiagr(const Host& host, std::int32_t key, char polar, Connection& connection);
+
+// The rows of one antenna diagram. Throws a RunTimeError.
+void deleteDiagramRows(std::int32_t key, char polar, Connection& connection);
 
 }  // namespace zamo

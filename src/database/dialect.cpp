@@ -30,12 +30,15 @@ bool isWordCharacter(char c) {
 }
 
 bool isSignOfExponent(std::string_view sql, std::size_t numberAt, std::size_t at) {
-  return isDigit(sql[numberAt]) && (sql[at] == '+' || sql[at] == '-') && (sql[at - 1] == 'e' || sql[at - 1] == 'E');
+  return (isDigit(sql[numberAt]) || sql[numberAt] == '.') && (sql[at] == '+' || sql[at] == '-') && (sql[at - 1] == 'e' || sql[at - 1] == 'E');
 }
 
-// Behind the closing mark. Without one the engine gets the rest as it is, to refuse it in its own words.
+// Behind the closing mark; one that is doubled belongs to the text. Without one the engine gets the rest as it is, to refuse it in its own words.
 std::size_t endOfQuoted(std::string_view sql, std::size_t at, char mark) {
-  const std::size_t end = sql.find(mark, at + 1);
+  std::size_t end = sql.find(mark, at + 1);
+  while (end != std::string_view::npos && sql.substr(end + 1, 1) == std::string_view(&mark, 1)) {
+    end = sql.find(mark, end + 2);
+  }
   return end == std::string_view::npos ? end : end + 1;
 }
 
@@ -120,10 +123,7 @@ std::string engineSql(std::string_view sql) {
   turnRightJoins(tokens);
   std::string result;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
-    // Two texts side by side stay one text with a quote inside.
-    const bool doubledQuote = i > 0 && tokens[i].kind == TokenKind::text && tokens[i - 1].kind == TokenKind::text &&
-                              tokens[i - 1].text.data() + tokens[i - 1].text.size() == tokens[i].text.data();
-    if (!result.empty() && !doubledQuote) result += ' ';
+    if (!result.empty()) result += ' ';
     result += engineToken(tokens, i);
   }
   return result;

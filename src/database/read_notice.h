@@ -1,5 +1,5 @@
-// Reading a notice back from the working database. A field whose column is Null stays as it is: the caller gives a
-// cleared record.
+// Reading a notice back from the working database. A field whose column is Null stays as it is: the caller
+// gives a cleared record.
 #pragma once
 
 #include <cstdint>
@@ -24,11 +24,13 @@ bool readFromAllotment(const Host& host, std::int32_t key, DigitalRec& digital, 
 bool readSubArea(const Host& host, std::int32_t allotkey, DigitalRec& digital, Connection& connection);
 bool readFromFmtvArt5target(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection);
 bool readFromKv19OpPrds(const Host& host, std::int32_t key, OpHoursRec& hours, Connection& connection);
-bool readCoord(const Host& host, std::int32_t key, CoordListRec& coord, Connection& connection);
 bool readFromKv19AntHgt(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection);
 bool readFromKV19AntDiagr_H(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection);
 bool readFromKv19AntDiagr_V(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection);
-bool readProcNtcHist(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection);
-bool readNotifierRmks(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection);
+
+// These show no box of their own: what fails in them is thrown, and so told by readFromKv19Vorna.
+bool readCoord(std::int32_t key, CoordListRec& coord, Connection& connection);
+bool readProcNtcHist(std::int32_t key, NtcRec& ntc, Connection& connection);
+bool readNotifierRmks(std::int32_t key, NtcRec& ntc, Connection& connection);
 
 }  // namespace zamo

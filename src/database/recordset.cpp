@@ -109,17 +109,17 @@ bool Recordset::atEnd() const {
 }
 
 void Recordset::MoveFirst() {
-  requireOpen();
+  CancelUpdate();
   position_ = 0;
 }
 
 void Recordset::MoveLast() {
-  requireOpen();
+  CancelUpdate();
   position_ = rows_.empty() ? 0 : rows_.size() - 1;
 }
 
 void Recordset::MoveNext() {
-  requireOpen();
+  CancelUpdate();
   ++position_;
 }
 

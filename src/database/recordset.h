@@ -23,6 +23,7 @@ class Recordset {
   // Exact, and not changed by Delete.
   std::int64_t RecordCount() const;
   bool atEnd() const;
+  // Moving drops the fields that were set and not stored.
   void MoveFirst();
   void MoveLast();
   void MoveNext();
@@ -31,13 +32,14 @@ class Recordset {
   const std::optional<std::string>& value(std::size_t column) const;
   const std::optional<std::string>& value(std::string_view field) const;
 
-  // A new row becomes the current one. It is stored by Update with the fields that were set.
+  // Begins a new row, which Update stores with the fields that were set. It doesn't join the rows read here.
   void AddNew();
   // Sets a field of the current row, for Update. Nothing clears it. Text is converted by the engine to the kind of the
   // column; columns of dates take a date in any of its forms.
   void Collect(std::string_view field, std::optional<std::string_view> text);
   void Collect(std::string_view field, std::int64_t number);
   void CollectReal(std::string_view field, double number);
+  // Stores the fields. What was read of the row stays as it was read.
   void Update();
   void CancelUpdate();
   // Deletes the current row, which can't be read any more. MoveNext leads to the one behind it.

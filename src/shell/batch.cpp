@@ -5,6 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "database/lookups.h"
+#include "database/read_notice.h"
+#include "noticefile/notice_writer.h"
+#include "platform/code_page.h"
 #include "platform/plain_host.h"
 #include "shell/pipeline.h"
 
@@ -21,6 +25,8 @@ std::string_view stageName(Stage stage) {
       return "basic";
     case Stage::complete:
       return "complete";
+    case Stage::load:
+      return "load";
     case Stage::none:
       break;
   }
@@ -35,18 +41,44 @@ void printVerdict(const std::string& file, const Verdict& verdict) {
   std::fflush(stdout);
 }
 
-int check(const std::vector<std::string>& files, int level) {
-  Shell shell;
-  shell.host = makePlainHost(true);
-  shell.run.ValLevel = static_cast<std::int16_t>(level);
+// Which of the stages the files go through.
+using Judge = Verdict (*)(Shell&);
+
+int judgeFiles(const std::vector<std::string>& files, int level, bool answer, Judge judge) {
   int status = kNothingFound;
   for (const std::string& file : files) {
+    Shell shell;
+    shell.host = makePlainHost(answer);
+    shell.run.ValLevel = static_cast<std::int16_t>(level);
     shell.run.NtcFileName = file;
-    const Verdict verdict = judgeFile(shell);
+    const Verdict verdict = judge(shell);
     printVerdict(file, verdict);
     if (!verdict.passed()) status = std::max<int>(status, verdict.machineFailed ? kFailed : kFindings);
   }
   return status;
+}
+
+int show(const std::string& databasePath, std::int32_t key, bool isContour) {
+  const Host host = makePlainHost(true);
+  DbConnection connection;
+  if (!OpenDB(host, databasePath, connection)) return kFailed;
+  NtcRec ntc;
+  const auto read = isContour ? readContourNtcFromDB : readNtcFromDB;
+  if (!read(host, key, ntc, *connection)) return kFailed;
+  const auto target = [&](std::int32_t targetKey) {
+    TargetElements elements;
+    getTargetElements(host, targetKey, elements.freq_assgn, elements.longitude, elements.latitude, *connection);
+    return elements;
+  };
+  const std::string text = isContour ? makeContourNotice(ntc, 1) : makeNoticeSection(ntc, 1, target);
+  std::puts(utf8FromText(text).c_str());
+  return kNothingFound;
+}
+
+void addLevel(CLI::App& command, int& level) {
+  command.add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks")
+      ->check(CLI::Range(kBasic, kCompleteWithoutGeo))
+      ->capture_default_str();
 }
 
 }  // namespace
@@ -54,22 +86,35 @@ int check(const std::vector<std::string>& files, int level) {
 int runBatch(int argc, const char* const* argv) {
   CLI::App app("Checks electronic notices of the plan KV19 without a window.", "zamo-kv19-batch");
   app.require_subcommand(1);
-
   std::vector<std::string> files;
   int level = kCompleteWithoutGeo;
-  CLI::App* checking =
+
+  CLI::App* const checking =
       app.add_subcommand("check", "Structure check, basic validation and, by level, complete validation");
-  checking
-      ->add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks")
-      ->check(CLI::Range(kBasic, kCompleteWithoutGeo))
-      ->capture_default_str();
+  addLevel(*checking, level);
   checking->add_option("FILE", files, "Notice files")->required();
+
+  bool answer = true;
+  CLI::App* const loading = app.add_subcommand("load", "The same, and then the working database of each file");
+  addLevel(*loading, level);
+  loading->add_flag("--yes,!--no", answer, "Answer every question with Yes, as is usual, or with No");
+  loading->add_option("FILE", files, "Notice files")->required();
+
+  std::string database;
+  std::int32_t key = 0;
+  bool isContour = false;
+  CLI::App* const showing = app.add_subcommand("show", "One notice of a working database, as it is written to a file");
+  showing->add_flag("--contour", isContour, "KEY is that of a contour");
+  showing->add_option("DB", database, "Working database")->required();
+  showing->add_option("KEY", key, "Key of the notice")->required();
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kNothingFound : kFailed;
   }
-  return check(files, level);
+  if (showing->parsed()) return show(database, key, isContour);
+  return judgeFiles(files, level, answer, loading->parsed() ? judgeAndLoadFile : judgeFile);
 }
 
 }  // namespace zamo

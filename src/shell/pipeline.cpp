@@ -3,6 +3,8 @@
 #include <initializer_list>
 
 #include "database/agency_lookups.h"
+#include "database/load.h"
+#include "model/ntc_reset.h"
 #include "noticefile/structure_check.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
@@ -27,6 +29,9 @@ const Message kReportComplete("report: first line after a failed complete valida
 const Message kCompleteRuns("status: complete validation begins on level 2", "Complete validation without geo coordinates is running. Please be patient....");
 const Message kCompleteHasErrors("status: complete validation failed on level 2", "Complete validation without geo coordinates has error(s).");
 const Message kReportWithoutGeo("report: second line after a failed complete validation on level 2", "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP");
+const Message kNoTemplate("box: the master template can't be opened for reading; number of the error", "Error %1 : \n\rMasterHDLK_WQN.mdb file not found");
+const Message kCreating("status: the working database is made", "Creating database structure");
+const Message kLoading("status: the load begins", "Reading and writing to the database");
 const Message kReportFallback("box \"Information\": no text viewer for the outcome report", "The validation report cannot be shown, but is available on ");
 const Message kNoViewerForReport("box \"Information\": no text viewer for a report; the second part tells which", "Cannot find Notepad.exe. %1%2");
 const Message kNoViewerForInput("box \"Information\": no text viewer for the input file", "Cannot find Notepad.exe. Unable to show the input file");
@@ -134,19 +139,41 @@ void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& lev
   }
 }
 
+bool isTemplateReadable(const Host& host) {
+  try {
+    const LineSource opened(masterTemplatePath());
+    return true;
+  } catch (const RunTimeError& error) {
+    host.showBox({kNoTemplate.filled({std::to_string(error.number)}), ""});
+    return false;
+  }
+}
+
+// Runs a stage to its end, or to the box for what it throws. Gives whether it came to its end.
+bool runStage(Shell& shell, Verdict& verdict, std::string_view operation, void (*stage)(Shell&, Verdict&)) {
+  try {
+    stage(shell, verdict);
+    return true;
+  } catch (const RunTimeError& error) {
+    verdict.machineFailed = true;
+    showRunTimeError(shell.host, error.number, operation, error.text);
+    return false;
+  }
+}
+
 }  // namespace
 
 void runTextCommand(Shell& shell, std::int16_t level) {
   shell.run.ValLevel = level;
   shell.run.startTime = timeStamp(shell.host.now());
   if (!chooseNoticeFile(shell)) return;
-  judgeFile(shell);
+  judgeAndLoadFile(shell);
 }
 
 void ButtonReVal(Shell& shell) {
   closeDB(shell.run.DbConn);
   shell.screen.gridVisible = false;
-  judgeFile(shell);
+  judgeAndLoadFile(shell);
 }
 
 void ButtonViewFile(const Shell& shell) {
@@ -218,19 +245,47 @@ void completeValidationNoGeo(Shell& shell, Verdict& verdict) {
   validateCompletely(shell, verdict, kWithoutGeo);
 }
 
+void createAndLoadDb(Shell& shell, Verdict& verdict) {
+  RunState& run = shell.run;
+  const auto fail = [&verdict] {
+    verdict.failedAt = Stage::load;
+    verdict.machineFailed = true;
+  };
+  if (!isTemplateReadable(shell.host)) return fail();
+  shell.screen.fileName = trimText(textFromUtf8(run.NtcFileName));
+  shell.draw(shell.screen);
+  run.DbFileName = baseOf(run.NtcFileName) + ".mdb";
+  copyMasterDB(shell.host, run.DbFileName);
+  showStatus(shell, kCreating);
+  resetAdm(run.CurrNtc);
+  LineSource lines(run.NtcFileName);
+  resetNtc(run.CurrNtc);
+  showStatus(shell, kLoading);
+  {
+    const Hourglass hourglass(shell.host);
+    const auto showReport = [&shell](const std::string& path, std::string_view messageHead) {
+      showReportInNotepad(shell.host, path, messageHead);
+    };
+    const LoadRun load{run.CurrNtc, run.NtcFileName, kWindowVersion, showReport};
+    if (!OpenDB(shell.host, run.DbFileName, run.DbConn)) return fail();
+    if (!readNtcsFromFileToDB(shell.host, lines, load, *run.DbConn).complete) fail();
+  }
+  shell.screen.fileName.insert(0, "TEXT FILE : ");
+  shell.draw(shell.screen);
+}
+
 Verdict judgeFile(Shell& shell) {
   Verdict verdict;
-  std::string_view operation = "checkFormatAndBasic";
-  try {
-    checkFormatAndBasic(shell, verdict);
-    if (verdict.passed() && shell.run.ValLevel == kCompleteWithoutGeo) {
-      operation = "completeValidationNoGeo";
-      completeValidationNoGeo(shell, verdict);
-    }
-  } catch (const RunTimeError& error) {
-    verdict.machineFailed = true;
-    showRunTimeError(shell.host, error.number, operation, error.text);
-  }
+  if (!runStage(shell, verdict, "checkFormatAndBasic", checkFormatAndBasic) || !verdict.passed()) return verdict;
+  // Findings of complete validation stop no run: the tool is there to correct such notices.
+  verdict.mayLoad = shell.run.ValLevel != kCompleteWithoutGeo ||
+                    runStage(shell, verdict, "completeValidationNoGeo", completeValidationNoGeo);
+  return verdict;
+}
+
+Verdict judgeAndLoadFile(Shell& shell) {
+  Verdict verdict = judgeFile(shell);
+  if (verdict.mayLoad) runStage(shell, verdict, "createAndLoadDb", createAndLoadDb);
   return verdict;
 }
 

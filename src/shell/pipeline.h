@@ -7,13 +7,14 @@
 
 namespace zamo {
 
-enum class Stage { none, structure, basic, complete };
+enum class Stage { none, structure, basic, complete, load };
 
 // What the checks made of a file.
 struct Verdict {
   Stage failedAt = Stage::none;
   bool machineFailed = false;  // an error of the machine, which the user has been shown, stands behind it
   std::string report;          // path of the outcome report, if one was written
+  bool mayLoad = false;        // what was found, if anything, doesn't keep the file from being loaded
   bool passed() const { return failedAt == Stage::none && !machineFailed; }
 };
 
@@ -37,8 +38,14 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict);
 // report that can't be written throws RunTimeError, and `verdict` holds what was known by then.
 void completeValidationNoGeo(Shell& shell, Verdict& verdict);
 
+// Makes the working database of NtcFileName from the master template and loads the notices into it.
+void createAndLoadDb(Shell& shell, Verdict& verdict);
+
 // The verdict on NtcFileName at the level of the run, with a box for what the stages throw.
 Verdict judgeFile(Shell& shell);
+
+// The same, and then the load, unless the structure check or basic validation stopped the run.
+Verdict judgeAndLoadFile(Shell& shell);
 
 // Opens a report in the text viewer. Without a viewer a box tells where it is, behind `messageHead`.
 void showReportInNotepad(const Host& host, const std::string& path, std::string_view messageHead);

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "database/recordset.h"
 #include "platform/files.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
@@ -15,6 +16,7 @@ namespace {
 using test::readFile;
 using test::Script;
 using test::TempFolder;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -61,7 +63,8 @@ TEST_F(Pipeline, a_file_with_sound_values_leaves_no_report_and_enables_the_menus
   EXPECT_FALSE(shell.screen.reValVisible);
   EXPECT_THAT(script.statuses,
               ElementsAre("Checking the File format. Please be patient....",
-                          "Basic validation is running. Please be patient....", "Notice no : 1"));
+                          "Basic validation is running. Please be patient....", "Notice no : 1",
+                          "Creating database structure", "Reading and writing to the database", "Notice no : 1"));
   EXPECT_EQ(script.hourglasses, 0);
 }
 
@@ -118,7 +121,8 @@ TEST_F(Pipeline, complete_validation_without_findings_leaves_no_report_and_hides
               ElementsAre("Checking the File format. Please be patient....",
                           "Basic validation is running. Please be patient....", "Notice no : 1",
                           "Complete validation without geo coordinates is running. Please be patient....",
-                          "Complete validation without Geographic validation : Notice no : 1"));
+                          "Complete validation without Geographic validation : Notice no : 1",
+                          "Creating database structure", "Reading and writing to the database", "Notice no : 1"));
   EXPECT_EQ(script.hourglasses, 0);
 }
 
@@ -137,7 +141,10 @@ TEST_F(Pipeline, complete_validation_reports_behind_two_lines_and_keeps_the_menu
             "\r\n"
             "\r\n");
   EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
-  EXPECT_EQ(script.statuses.back(), "Complete validation without geo coordinates has error(s).");
+  EXPECT_THAT(script.statuses, Contains("Complete validation without geo coordinates has error(s)."));
+  // It is loaded all the same, to be corrected on screen.
+  EXPECT_TRUE(std::filesystem::exists(folder.file("bad.mdb")));
+  EXPECT_NE(shell.run.DbConn, nullptr);
   EXPECT_TRUE(shell.screen.viewFileVisible);
   EXPECT_TRUE(shell.screen.reValVisible);
   EXPECT_TRUE(shell.screen.queryEnabled);
@@ -161,6 +168,56 @@ TEST_F(Pipeline, an_administration_with_a_quote_breaks_the_lookup_and_ends_the_s
   EXPECT_TRUE(verdict.machineFailed);
   ASSERT_EQ(script.boxes.size(), 1U);
   EXPECT_EQ(script.boxes[0].title, "Backend Validation");
+}
+
+TEST_F(Pipeline, a_file_that_fails_its_checks_is_not_loaded) {
+  choose("bad.txt", kBadValue);
+  runTextCommand(shell, kBasic);
+  EXPECT_FALSE(std::filesystem::exists(folder.file("bad.mdb")));
+  choose("bad.txt", kBadStructure);
+  runTextCommand(shell, kBasic);
+  EXPECT_FALSE(std::filesystem::exists(folder.file("bad.mdb")));
+}
+
+TEST_F(Pipeline, a_loaded_file_is_named_as_one_and_its_database_stays_open) {
+  const std::string file = choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  EXPECT_EQ(shell.screen.fileName, "TEXT FILE : " + file);
+  EXPECT_EQ(shell.run.DbFileName, folder.file("good.mdb"));
+  ASSERT_NE(shell.run.DbConn, nullptr);
+  Recordset rows("SELECT adm_ref_id, adm FROM fmtv_vorna", *shell.run.DbConn);
+  ASSERT_EQ(rows.RecordCount(), 1);
+  EXPECT_EQ(rows.value("adm_ref_id"), "A1");
+  EXPECT_EQ(rows.value("adm"), "F");
+}
+
+TEST_F(Pipeline, a_second_run_replaces_the_working_database_without_a_question) {
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  shell.run.DbConn->BeginTrans();
+  Recordset rows("SELECT * FROM fmtv_vorna", *shell.run.DbConn);
+  rows.Collect("adm_ref_id", "CORRECTED");
+  rows.Update();
+  shell.run.DbConn->CommitTrans();
+  ButtonReVal(shell);
+  EXPECT_EQ(Recordset("SELECT adm_ref_id FROM fmtv_vorna", *shell.run.DbConn).value(0), "A1");
+  EXPECT_THAT(script.questions, IsEmpty());
+  EXPECT_EQ(script.fileRequests.size(), 1U);
+  EXPECT_EQ(shell.screen.fileName, "TEXT FILE : " + folder.file("good.txt"));
+}
+
+TEST_F(Pipeline, a_database_that_cannot_be_replaced_is_told_and_left_as_it_is) {
+  std::filesystem::create_directories(folder.file("good.mdb/kept"));
+  shell.run.NtcFileName = folder.write("good.txt", kGoodNotice);
+  shell.run.ValLevel = kBasic;
+  const Verdict verdict = judgeAndLoadFile(shell);
+  EXPECT_EQ(verdict.failedAt, Stage::load);
+  EXPECT_TRUE(verdict.machineFailed);
+  EXPECT_EQ(shell.run.DbConn, nullptr);
+  ASSERT_EQ(script.boxes.size(), 2U);
+  EXPECT_TRUE(script.boxes[0].text.starts_with("Error 70 : Permission denied: ")) << script.boxes[0].text;
+  EXPECT_EQ(script.boxes[1].title, "OpenDB");
+  EXPECT_TRUE(std::filesystem::exists(folder.file("good.mdb/kept")));
 }
 
 TEST_F(Pipeline, a_report_replaces_the_old_one_and_a_stale_one_stays_after_a_clean_run) {
