@@ -11,6 +11,7 @@
 #include "platform/code_page.h"
 #include "platform/plain_host.h"
 #include "shell/pipeline.h"
+#include "shell/start_up.h"
 
 namespace zamo {
 namespace {
@@ -45,10 +46,14 @@ void printVerdict(const std::string& file, const Verdict& verdict) {
 using Judge = Verdict (*)(Shell&);
 
 int judgeFiles(const std::vector<std::string>& files, int level, bool answer, Judge judge) {
+  Shell start;
+  start.host = makePlainHost(answer);
+  if (level == kCompleteWithGeo && !openMap(start.host, mapBesideExecutable(start))) return kFailed;
   int status = kNothingFound;
   for (const std::string& file : files) {
     Shell shell;
-    shell.host = makePlainHost(answer);
+    shell.host = start.host;
+    shell.map = start.map;
     shell.run.ValLevel = static_cast<std::int16_t>(level);
     shell.run.NtcFileName = file;
     const Verdict verdict = judge(shell);
@@ -76,8 +81,8 @@ int show(const std::string& databasePath, std::int32_t key, bool isContour) {
 }
 
 void addLevel(CLI::App& command, int& level) {
-  command.add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks")
-      ->check(CLI::Range(kBasic, kCompleteWithoutGeo))
+  command.add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks; 3: with them")
+      ->check(CLI::Range(kBasic, kCompleteWithGeo))
       ->capture_default_str();
 }
 
@@ -87,7 +92,7 @@ int runBatch(int argc, const char* const* argv) {
   CLI::App app("Checks electronic notices of the plan KV19 without a window.", "zamo-kv19-batch");
   app.require_subcommand(1);
   std::vector<std::string> files;
-  int level = kCompleteWithoutGeo;
+  int level = kCompleteWithGeo;
 
   CLI::App* const checking =
       app.add_subcommand("check", "Structure check, basic validation and, by level, complete validation");

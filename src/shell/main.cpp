@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
   zamo::Shell shell;
   zamo::MainWindow window(shell);
   shell.host = zamo::makeQtHost(window);
-  zamo::startUp(shell, std::nullopt);
+  zamo::startUp(shell, zamo::mapBesideExecutable(shell));
   window.show();
   return QApplication::exec();
 }

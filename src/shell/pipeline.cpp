@@ -28,6 +28,9 @@ const Message kReportBasic("report: heading of the findings of basic validation"
 const Message kReportComplete("report: first line after a failed complete validation", "Basic Validation OK");
 const Message kCompleteRuns("status: complete validation begins on level 2", "Complete validation without geo coordinates is running. Please be patient....");
 const Message kCompleteHasErrors("status: complete validation failed on level 2", "Complete validation without geo coordinates has error(s).");
+const Message kCompleteRunsWithGeo("status: complete validation begins on level 3", "Complete validation with validation of the geo coordinates is running. Please be patient....");
+const Message kCompleteHasErrorsWithGeo("status: complete validation failed on level 3", "Complete validation with geo coordinates has error(s).");
+const Message kReportWithGeo("report: second line after a failed complete validation on level 3; a line of one blank follows", "Complete Validation WITH validation of the geographical coordination against the GZMP");
 const Message kReportWithoutGeo("report: second line after a failed complete validation on level 2", "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP");
 const Message kNoTemplate("box: the master template can't be opened for reading; number of the error", "Error %1 : \n\rMasterHDLK_WQN.mdb file not found");
 const Message kCreating("status: the working database is made", "Creating database structure");
@@ -84,6 +87,8 @@ struct CompleteLevel {
 
 const CompleteLevel kWithoutGeo = {
     false, kCompleteRuns, {Stage::complete, kCompleteHasErrors}, kReportWithoutGeo, false};
+const CompleteLevel kWithGeo = {
+    true, kCompleteRunsWithGeo, {Stage::complete, kCompleteHasErrorsWithGeo}, kReportWithGeo, true};
 
 void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, const StageResult& result,
                  std::initializer_list<std::string_view> reportItems) {
@@ -124,8 +129,8 @@ void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& lev
     const Hourglass hourglass(shell.host);
     NtcRec work;
     MasterAgencies agencies;
-    complete = runCompleteValidation(shell.host, work, errText, level.withGeo, shell.run.NtcFileName,
-                                     lookupsOf(agencies));
+    complete = runCompleteValidation(shell.host, work, errText, level.withGeo ? &shell.map : nullptr,
+                                     shell.run.NtcFileName, lookupsOf(agencies));
   }
   if (complete.passed) {
     showValidationButtons(shell, false);
@@ -245,6 +250,10 @@ void completeValidationNoGeo(Shell& shell, Verdict& verdict) {
   validateCompletely(shell, verdict, kWithoutGeo);
 }
 
+void completeValidationGeo(Shell& shell, Verdict& verdict) {
+  validateCompletely(shell, verdict, kWithGeo);
+}
+
 void createAndLoadDb(Shell& shell, Verdict& verdict) {
   RunState& run = shell.run;
   const auto fail = [&verdict] {
@@ -278,8 +287,12 @@ Verdict judgeFile(Shell& shell) {
   Verdict verdict;
   if (!runStage(shell, verdict, "checkFormatAndBasic", checkFormatAndBasic) || !verdict.passed()) return verdict;
   // Findings of complete validation stop no run: the tool is there to correct such notices.
-  verdict.mayLoad = shell.run.ValLevel != kCompleteWithoutGeo ||
-                    runStage(shell, verdict, "completeValidationNoGeo", completeValidationNoGeo);
+  verdict.mayLoad = true;
+  if (shell.run.ValLevel == kCompleteWithoutGeo) {
+    verdict.mayLoad = runStage(shell, verdict, "completeValidationNoGeo", completeValidationNoGeo);
+  } else if (shell.run.ValLevel == kCompleteWithGeo) {
+    verdict.mayLoad = runStage(shell, verdict, "completeValidationGeo", completeValidationGeo);
+  }
   return verdict;
 }
 

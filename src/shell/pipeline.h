@@ -37,6 +37,7 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict);
 // Complete validation of NtcFileName, with its report, statuses and buttons. What it finds stops no run. A
 // report that can't be written throws RunTimeError, and `verdict` holds what was known by then.
 void completeValidationNoGeo(Shell& shell, Verdict& verdict);
+void completeValidationGeo(Shell& shell, Verdict& verdict);
 
 // Makes the working database of NtcFileName from the master template and loads the notices into it.
 void createAndLoadDb(Shell& shell, Verdict& verdict);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "database/db_connection.h"
+#include "map/gzmp_map.h"
 #include "model/ntc_rec.h"
 #include "platform/host.h"
 
@@ -66,6 +67,7 @@ struct Shell {
   Host host;
   RunState run;
   MainScreen screen;
+  GzmpMap map;  // the world map, which level 3 needs opened
   std::function<void(const MainScreen&)> draw = [](const MainScreen&) {};
 };
 

@@ -1,5 +1,6 @@
 #include "shell/start_up.h"
 
+#include "map/world_map.h"
 #include "platform/files.h"
 #include "platform/message.h"
 
@@ -10,17 +11,29 @@ const Message kNoMap("box \"File Missing\" at start: the map's data file isn't t
                      "The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP");
 const Message kNoMapData("box at start: the map's data file can't be used", "Can't find GZMP data files");
 
-void openMap(Shell& shell, const MapOpening& map) {
-  if (!fileExists(map.dataFile, shell.host.yield)) {
-    shell.host.showBox({kNoMap.filled({}), "File Missing", BoxIcon::information});
-    shell.screen.openTxtEnabled = false;
-  } else if (map.open() == -1) {
-    shell.host.showBox({kNoMapData.filled({}), "", BoxIcon::none});
-    shell.screen.openTxtEnabled = false;
-  }
+}  // namespace
+
+MapOpening mapBesideExecutable(Shell& shell) {
+  const std::string dataFile = executableFolder() + "/" + kMapDataFile;
+  shell.map = makeWorldMap(dataFile).gzmp;
+  return {dataFile, [&map = shell.map] {
+            map.gzmpSetUnit(kGzmpUnit);
+            map.gzmpInit();
+            return map.gzmpOpenData();
+          }};
 }
 
-}  // namespace
+bool openMap(const Host& host, const MapOpening& map) {
+  if (!fileExists(map.dataFile, host.yield)) {
+    host.showBox({kNoMap.filled({}), "File Missing", BoxIcon::information});
+    return false;
+  }
+  if (map.open() == kGzmpNoData) {
+    host.showBox({kNoMapData.filled({}), "", BoxIcon::none});
+    return false;
+  }
+  return true;
+}
 
 void startUp(Shell& shell, const std::optional<MapOpening>& map) {
   MainScreen& screen = shell.screen;
@@ -38,7 +51,7 @@ void startUp(Shell& shell, const std::optional<MapOpening>& map) {
   screen.inputVisible = false;
   screen.statusVisible = false;
   shell.draw(screen);
-  if (map) openMap(shell, *map);
+  if (map) screen.openTxtEnabled = openMap(shell.host, *map);
   shell.run.DbConn.reset();
   shell.run.UserName = getLogonName(shell.host);
   shell.draw(screen);

@@ -6,6 +6,7 @@
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 #include "validation/common_rules.h"
+#include "validation/geo_rules.h"
 
 namespace zamo {
 namespace {
@@ -19,7 +20,7 @@ struct Validation {
   const Host& host;
   SectionReading reading;
   std::string& report;
-  bool withGeo;
+  const GzmpMap* map;
   const AgencyLookups& lookups;
   Date today;
   std::int64_t noticesRead = 0;
@@ -64,7 +65,7 @@ void validateNotice(Validation& validation) {
   std::string label = "Notice No : " + number + " at line number : " + std::to_string(reading.lines.lineNo());
   readLine(reading);
   resetNtc(ntc);
-  validation.host.setStatus((validation.withGeo ? kStatusWithGeo : kStatusWithoutGeo).filled({number}));
+  validation.host.setStatus((validation.map != nullptr ? kStatusWithGeo : kStatusWithoutGeo).filled({number}));
   reading.prefix = label;
   const std::string messages = readNoticeSection(reading);
   label += identityOf(ntc);
@@ -77,7 +78,9 @@ void validateNotice(Validation& validation) {
   const bool mandatoryGood = checkNtcMandatory(ntc, errs, label);
   addGroup(validation, mandatoryGood, errs);
   errs.clear();
-  const bool refsGood = checkNtcRefs(ntc, errs, label);
+  const bool refsGood = validation.map == nullptr
+                            ? checkNtcRefs(ntc, errs, label)
+                            : checkNtcRefsGeo(validation.host, *validation.map, ntc, errs, label);
   addGroup(validation, refsGood, errs);
   errs.clear();
   const bool agencyGood = checkOpAgcyAddrCode(ntc, validation.lookups, errs, label);
@@ -87,20 +90,20 @@ void validateNotice(Validation& validation) {
 
 }  // namespace
 
-StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& report, bool withGeo,
+StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& report, const GzmpMap* map,
                                   const std::string& filePath, const AgencyLookups& lookups) {
   try {
     LineSource lines(filePath);
-    return {validateNotices(host, lines, ntc, report, withGeo, lookups)};
+    return {validateNotices(host, lines, ntc, report, map, lookups)};
   } catch (const RunTimeError& error) {
     showRunTimeError(host, error.number, "Backend Validation", error.text);
     return {false, true};
   }
 }
 
-bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report, bool withGeo,
+bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report, const GzmpMap* map,
                      const AgencyLookups& lookups) {
-  Validation validation{host,           SectionReading{lines, ntc, {}, {}, {}}, report, withGeo, lookups,
+  Validation validation{host,           SectionReading{lines, ntc, {}, {}, {}}, report, map, lookups,
                         host.now().date};
   SectionReading& reading = validation.reading;
   while (!lines.atEnd()) {

@@ -5,6 +5,7 @@
 
 #include "platform/text.h"
 #include "validation/ref_data.h"
+#include "validation/reference_steps.h"
 #include "validation/rule_report.h"
 
 namespace zamo {
@@ -22,6 +23,8 @@ const Message kCoordOwn("all types but GA1 and TB5: a t_adm of <COORD> is the no
 const Message kOpAgency("t_op_agcy is none of the administration in the master template", " Invalid t_op_agcy (12A)");
 const Message kAddressCode("t_addr_code is none of the administration in the master template", " Invalid t_addr_code (12B)");
 // clang-format on
+
+}  // namespace
 
 void checkCountry(RuleReport& report, const NtcRec& ntc) {
   if (isAnyType(ntc, {"TB2", "TB5", "TB3"})) return;
@@ -51,8 +54,6 @@ void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<std
     if (equalsIgnoringCase(entry.adm, ntc.t_adm)) report.fatal(kCoordOwn, {entry.adm});
   }
 }
-
-}  // namespace
 
 bool checkHeadAdm(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};

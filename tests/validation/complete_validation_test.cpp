@@ -44,12 +44,24 @@ AgencyLookups failing(int number) {
   return {fail, fail};
 }
 
+// A map on which all land is the one country.
+GzmpMap makeMapOf(const std::string& code) {
+  GzmpMap map;
+  map.gzmpParseCoords = [](const std::string&) { return GzmpPoint{}; };
+  map.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
+  map.gzmpCountryAtPoint = [code](const GzmpPoint&) { return code; };
+  map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) { return GzmpNearest{}; };
+  map.gzmpFindCrossings = [](const std::vector<GzmpPoint>&) { return GzmpCrossings{}; };
+  return map;
+}
+
 Outcome validateFile(Script& script, const std::string& path, bool withGeo = false,
                      const AgencyLookups& lookups = oneOfEach()) {
   Outcome outcome;
   NtcRec ntc;
+  const GzmpMap map = makeMapOf("F  ");
   outcome.passed =
-      runCompleteValidation(makeScriptedHost(script), ntc, outcome.report, withGeo, path, lookups).passed;
+      runCompleteValidation(makeScriptedHost(script), ntc, outcome.report, withGeo ? &map : nullptr, path, lookups).passed;
   return outcome;
 }
 
@@ -131,7 +143,7 @@ TEST(CompleteValidation, findings_go_behind_what_the_report_holds) {
   std::string report = "before\r\n";
   const std::string path = folder.write("a.txt", "<HEAD>\r\nt_adm = XXX\r\n</HEAD>\r\n");
   const StageResult result =
-      runCompleteValidation(makeScriptedHost(script), ntc, report, false, path, oneOfEach());
+      runCompleteValidation(makeScriptedHost(script), ntc, report, nullptr, path, oneOfEach());
   EXPECT_FALSE(result.passed);
   EXPECT_EQ(report,
             "before\r\n"
@@ -429,10 +441,10 @@ TEST(CompleteValidation, the_result_tells_a_failure_of_the_machine_from_a_findin
   std::string report;
   const Host host = makeScriptedHost(script);
   const StageResult missing =
-      runCompleteValidation(host, ntc, report, false, folder.file("none"), oneOfEach());
+      runCompleteValidation(host, ntc, report, nullptr, folder.file("none"), oneOfEach());
   EXPECT_TRUE(missing.machineFailed);
   const StageResult found = runCompleteValidation(
-      host, ntc, report, false, folder.write("a.txt", "<HEAD>\r\nt_adm = X\r\n</HEAD>\r\n"), oneOfEach());
+      host, ntc, report, nullptr, folder.write("a.txt", "<HEAD>\r\nt_adm = X\r\n</HEAD>\r\n"), oneOfEach());
   EXPECT_FALSE(found.machineFailed);
   EXPECT_FALSE(found.passed);
 }
