@@ -14,7 +14,9 @@ test: packages
 	ctest --preset dev
 
 bench: release
+	cmake --build --preset release --target map_bench
 	@bench/run.sh $(release_bin)
+	@$(release_bin)/map_bench $(release_bin)/gzmp32d.dat
 
 # Every fuzz target in turn, under the sanitizers, from the example files.
 fuzz: packages

@@ -17,6 +17,7 @@ qt='Q[A-Z]|Qt'
 forbid platform "(model|noticefile|map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
 forbid model "(noticefile|map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
 forbid noticefile "(map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
+forbid map "(model|noticefile|validation|database|query|screens|shell)/|$qt|sqlite3"
 forbid validation "(database|query|screens|shell)/|$qt|sqlite3|s2/"
 forbid database "(map|validation|query|screens|shell)/|$qt|s2/"
 forbid shell "sqlite3|s2/"

@@ -157,6 +157,24 @@ TEST_F(Batch, a_load_without_room_on_the_disk_ends_with_2_and_keeps_whole_notice
   EXPECT_EQ(readFile(folder.file("sound.log")), "ok\n1\n0\n");
 }
 
+TEST_F(Batch, without_its_map_the_third_level_is_refused_and_the_others_work) {
+  // A copy of the program without what stands beside it.
+  std::filesystem::copy_file(ZAMO_BIN "/zamo-kv19-batch", folder.file("alone"));
+  folder.write("good.txt", kGoodFile);
+  const auto runAlone = [this](const std::string& arguments) {
+    const std::string command = "cd '" + folder.path() + "' && ./alone " + arguments + " >out.log 2>err.log";
+    const int result = std::system(command.c_str());
+    return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
+  };
+  EXPECT_EQ(runAlone("check good.txt"), 2);
+  EXPECT_EQ(readFile(folder.file("err.log")),
+            "File Missing: The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP\n");
+  folder.write("gzmp32d.dat", "no map");
+  EXPECT_EQ(runAlone("check --level 3 good.txt"), 2);
+  EXPECT_EQ(readFile(folder.file("err.log")), "Can't find GZMP data files\n");
+  EXPECT_EQ(runAlone("check --level 1 good.txt"), 0);
+}
+
 TEST_F(Batch, a_line_of_100_megabytes_is_read) {
   std::string content(kGoodFile);
   content.insert(content.find("t_notice_type"), "t_remarks = " + std::string(100'000'000, 'x') + "\n");

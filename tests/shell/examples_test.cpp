@@ -17,6 +17,7 @@ namespace {
 struct Example {
   std::string name;
   std::string verdict;
+  int level = 3;
 };
 
 // clang-format off
@@ -32,9 +33,10 @@ const std::array kExamples = {
     Example{"structure-missing-end-tag.txt", "structure"},
     Example{"structure-cut-off.txt",         "structure"},
     Example{"basic-errors.txt",              "basic"},
-    Example{"complete-tv-errors.txt",        "complete"},
-    Example{"complete-notified-errors.txt",  "complete"},
-    Example{"complete-allotment-errors.txt", "complete"},
+    Example{"complete-tv-errors.txt",        "complete", 2},
+    Example{"complete-notified-errors.txt",  "complete", 2},
+    Example{"complete-allotment-errors.txt", "complete", 2},
+    Example{"complete-place-errors.txt",     "complete"},
 };
 // clang-format on
 
@@ -43,8 +45,8 @@ struct Outcome {
   std::string output;
 };
 
-Outcome checkAtLevel2(const std::string& file) {
-  const std::string command = "'" ZAMO_BIN "/zamo-kv19-batch' check --level 2 '" + file + "' 2>/dev/null";
+Outcome check(const std::string& file, int level) {
+  const std::string command = "'" ZAMO_BIN "/zamo-kv19-batch' check --level " + std::to_string(level) + " '" + file + "' 2>/dev/null";
   Outcome outcome;
   FILE* pipe = ::popen(command.c_str(), "r");
   if (pipe == nullptr) return outcome;
@@ -87,7 +89,7 @@ TEST(Examples, valid_ones_pass_and_leave_no_report) {
     SCOPED_TRACE(example.name);
     const test::TempFolder folder;
     const std::string file = folder.write(example.name, test::readFile(ZAMO_EXAMPLES "/" + example.name));
-    const Outcome outcome = checkAtLevel2(file);
+    const Outcome outcome = check(file, example.level);
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.output, file + "\tok\n");
     EXPECT_EQ(filesIn(folder.path()), std::set<std::string>{example.name});
@@ -101,7 +103,7 @@ TEST(Examples, failing_ones_leave_the_report_that_stands_beside_them) {
     const test::TempFolder folder;
     const std::string base = example.name.substr(0, example.name.size() - 4);
     const std::string file = folder.write(example.name, test::readFile(ZAMO_EXAMPLES "/" + example.name));
-    const Outcome outcome = checkAtLevel2(file);
+    const Outcome outcome = check(file, example.level);
     const std::string report = folder.file(base + "_val_outcome.txt");
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_EQ(outcome.output, file + "\t" + example.verdict + "\t" + report + "\n");

@@ -151,6 +151,37 @@ TEST_F(Pipeline, complete_validation_reports_behind_two_lines_and_keeps_the_menu
   EXPECT_TRUE(shell.screen.txtDbEnabled);
 }
 
+TEST_F(Pipeline, the_third_level_asks_the_map_and_leaves_a_blank_line_in_its_report) {
+  // A map on which everything is sea, and far from any country.
+  shell.map.gzmpParseCoords = [](const std::string&) { return GzmpPoint{}; };
+  shell.map.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
+  shell.map.gzmpCountryAtPoint = [](const GzmpPoint&) { return std::string("   "); };
+  shell.map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) { return GzmpNearest{}; };
+  shell.map.gzmpFindCrossings = [](const std::vector<GzmpPoint>&) { return GzmpCrossings{}; };
+  std::string points;
+  for (const char* lat : {"+485000", "+485100", "+485200"}) {
+    points += "<POINT>\r\nt_long = +0021000\r\nt_lat = " + std::string(lat) + "\r\n</POINT>\r\n";
+  }
+  choose("contour.txt",
+         "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n<NOTICE>\r\nt_notice_type = GA1\r\nt_action = ADD\r\nt_ctry = F\r\n"
+         "t_contour_id = 7\r\nt_nb_test_pts = 3\r\n" + points +
+             "</NOTICE>\r\n<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n");
+  runTextCommand(shell, kCompleteWithGeo);
+  const std::string line = "FATAL ERROR : \r\nNotice No : 1 at line number : 4 : Contour_id = 7 : t_long : +0021000 t_lat : ";
+  const std::string remark = " are not in F according to the MN's GZMP\r\n";
+  EXPECT_EQ(readFile(folder.file("contour_val_outcome.txt")),
+            "Basic Validation OK\r\n"
+            "Complete Validation WITH validation of the geographical coordination against the GZMP\r\n"
+            " \r\n" +
+                line + "+485000" + remark + line + "+485100" + remark + line + "+485200" + remark + "\r\n\r\n");
+  EXPECT_THAT(script.statuses, Contains("Complete validation with validation of the geo coordinates is running. Please "
+                                        "be patient...."));
+  EXPECT_THAT(script.statuses, Contains("Complete validation with Geographic validation : Notice no : 1"));
+  EXPECT_THAT(script.statuses, Contains("Complete validation with geo coordinates has error(s)."));
+  EXPECT_TRUE(shell.screen.reValVisible);
+  EXPECT_TRUE(std::filesystem::exists(folder.file("contour.mdb")));
+}
+
 TEST_F(Pipeline, a_file_of_bad_values_never_reaches_complete_validation) {
   choose("bad.txt", kBadValue);
   runTextCommand(shell, kCompleteWithoutGeo);
