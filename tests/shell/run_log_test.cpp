@@ -18,9 +18,9 @@ class RunLog : public testing::Test {
     shell.host = makeScriptedHost(script);
     shell.run.fileTime = "9:6:0";
     shell.run.startTime = "9:5:4";
-    std::filesystem::create_directory(folder.file("shared"));
+    std::filesystem::create_directory(folder.file("common"));
     places.localFile = folder.file("local.csv");
-    places.sharedFolder = folder.file("shared/");
+    places.sharedFolder = folder.file("common/");
   }
 
   test::Script script;
@@ -36,13 +36,13 @@ TEST_F(RunLog, a_line_goes_to_the_local_and_the_shared_file) {
       "one;two;7; KV19 Zamo HDLK Digital Version 2.08 / 08.04.2009;tester;2026-03-07;9:6:0-9:5:4\r\n"
       "one;two;; KV19 Zamo HDLK Digital Version 2.08 / 08.04.2009;tester;2026-03-07;9:6:0-9:5:4\r\n";
   EXPECT_EQ(readFile(folder.file("local.csv")), expected);
-  EXPECT_EQ(readFile(folder.file("shared/LMZ_Pro_Log.csv")), expected);
+  EXPECT_EQ(readFile(folder.file("common/LMZ_Pro_Log.csv")), expected);
 }
 
 TEST_F(RunLog, one_user_and_a_missing_shared_folder_keep_it_local) {
   script.logonName = "zuwerkal";
   writeRunLog(shell, "one", "two", 1, places);
-  EXPECT_FALSE(std::filesystem::exists(folder.file("shared/LMZ_Pro_Log.csv")));
+  EXPECT_FALSE(std::filesystem::exists(folder.file("common/LMZ_Pro_Log.csv")));
   script.logonName = "tester";
   places.sharedFolder = folder.file("nowhere/");
   writeRunLog(shell, "one", "two", 1, places);
@@ -58,7 +58,7 @@ TEST_F(RunLog, where_writing_is_not_permitted_the_name_grows_by_the_logon_name) 
 TEST_F(RunLog, any_other_failure_skips_the_line) {
   places.localFile = folder.file("no/such/folder.csv");
   writeRunLog(shell, "one", "two", 1, places);
-  EXPECT_TRUE(readFile(folder.file("shared/LMZ_Pro_Log.csv")).starts_with("one;two;1;"));
+  EXPECT_TRUE(readFile(folder.file("common/LMZ_Pro_Log.csv")).starts_with("one;two;1;"));
 }
 
 }  // namespace
