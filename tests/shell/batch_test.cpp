@@ -175,6 +175,26 @@ TEST_F(Batch, without_its_map_the_third_level_is_refused_and_the_others_work) {
   EXPECT_EQ(runAlone("check --level 1 good.txt"), 0);
 }
 
+TEST_F(Batch, without_its_template_nothing_is_loaded_and_an_old_database_stays) {
+  std::filesystem::copy_file(ZAMO_BIN "/zamo-kv19-batch", folder.file("alone"));
+  folder.write("good.txt", kGoodFile);
+  folder.write("good.mdb", "an old database");
+  const int result =
+      std::system(("cd '" + folder.path() + "' && ./alone load --level 1 good.txt >out.log 2>err.log").c_str());
+  EXPECT_EQ(WEXITSTATUS(result), 2);
+  EXPECT_EQ(readFile(folder.file("out.log")), "good.txt\tload\n");
+  EXPECT_TRUE(readFile(folder.file("err.log")).ends_with("Error 53 : \n\rMasterHDLK_WQN.mdb file not found\n"));
+  EXPECT_EQ(readFile(folder.file("good.mdb")), "an old database");
+}
+
+TEST_F(Batch, a_damaged_database_is_told_and_left_alone) {
+  folder.write("noise.mdb", std::string(5000, 'x'));
+  const Outcome outcome = run("show noise.mdb 1");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.messages, "OpenDB: Erreur 26:file is not a database\n");
+  EXPECT_EQ(readFile(folder.file("noise.mdb")), std::string(5000, 'x'));
+}
+
 TEST_F(Batch, a_line_of_100_megabytes_is_read) {
   std::string content(kGoodFile);
   content.insert(content.find("t_notice_type"), "t_remarks = " + std::string(100'000'000, 'x') + "\n");
