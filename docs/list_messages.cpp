@@ -8,7 +8,9 @@
 namespace {
 
 // The subject that a source file stands for.
-std::string subjectOf(std::string_view file) { return std::string(file.substr(0, file.rfind('.'))); }
+std::string subjectOf(std::string_view file) {
+  return std::string(file.substr(0, file.rfind('.')));
+}
 
 // Line ends can't stand in a line of the list.
 std::string onOneLine(std::string_view words) {

@@ -1,6 +1,7 @@
 -- The master template of a working database. build-template.sh runs this file and adds the rows of the two CSV files.
 --
--- Kinds of columns: text is compared without regard to case; numbers are REAL; keys and counts are INTEGER. A date is
+-- Kinds of columns: text is compared without regard to case; numbers are REAL and finite, as a text beyond a double would
+-- come back as another text; keys and counts are INTEGER. A date is
 -- the text YYYY-MM-DD: adding no days gives back a day of the calendar as it was, and anything else changed or not at
 -- all.
 --
@@ -29,25 +30,25 @@ CREATE TABLE fmtv_vorna (
   plan_adm_ref_id       TEXT COLLATE NOCASE,
   call_sign             TEXT COLLATE NOCASE,
   stn_id                TEXT COLLATE NOCASE,
-  freq_assgn            REAL,
-  long_deg              REAL,
-  long_min              REAL,
-  long_sec              REAL,
+  freq_assgn            REAL CHECK (abs(freq_assgn) <= 1.7976931348623157e308),
+  long_deg              REAL CHECK (abs(long_deg) <= 1.7976931348623157e308),
+  long_min              REAL CHECK (abs(long_min) <= 1.7976931348623157e308),
+  long_sec              REAL CHECK (abs(long_sec) <= 1.7976931348623157e308),
   long_ew               TEXT COLLATE NOCASE,
-  long_rdn              REAL,
-  lat_deg               REAL,
-  lat_min               REAL,
-  lat_sec               REAL,
+  long_rdn              REAL CHECK (abs(long_rdn) <= 1.7976931348623157e308),
+  lat_deg               REAL CHECK (abs(lat_deg) <= 1.7976931348623157e308),
+  lat_min               REAL CHECK (abs(lat_min) <= 1.7976931348623157e308),
+  lat_sec               REAL CHECK (abs(lat_sec) <= 1.7976931348623157e308),
   lat_ns                TEXT COLLATE NOCASE,
-  lat_rdn               REAL,
+  lat_rdn               REAL CHECK (abs(lat_rdn) <= 1.7976931348623157e308),
   ctry                  TEXT COLLATE NOCASE,
   site_name             TEXT COLLATE NOCASE,
   polar                 TEXT COLLATE NOCASE,
-  erp_h_dbw             REAL,
-  erp_v_dbw             REAL,
-  hgt_agl               REAL,
-  site_alt              REAL,
-  eff_hgtmax            REAL,
+  erp_h_dbw             REAL CHECK (abs(erp_h_dbw) <= 1.7976931348623157e308),
+  erp_v_dbw             REAL CHECK (abs(erp_v_dbw) <= 1.7976931348623157e308),
+  hgt_agl               REAL CHECK (abs(hgt_agl) <= 1.7976931348623157e308),
+  site_alt              REAL CHECK (abs(site_alt) <= 1.7976931348623157e308),
+  eff_hgtmax            REAL CHECK (abs(eff_hgtmax) <= 1.7976931348623157e308),
   op_agcy               TEXT COLLATE NOCASE,
   addr_code             TEXT COLLATE NOCASE,
   d_inuse               TEXT CHECK (d_inuse IS date(substr(d_inuse, 1, 10), '+0 days')),
@@ -89,7 +90,7 @@ CREATE TABLE lmz_allotment (
   allot_name    TEXT COLLATE NOCASE,
   typ_ref_netwk TEXT COLLATE NOCASE,
   geo_area      TEXT COLLATE NOCASE,
-  nb_sub_areas  REAL
+  nb_sub_areas  REAL CHECK (abs(nb_sub_areas) <= 1.7976931348623157e308)
 ) STRICT;
 
 -- With vornakey the search by area, whose rows may be many, never turns to the table itself.
@@ -98,11 +99,11 @@ CREATE INDEX lmz_allotment_geo_area ON lmz_allotment (geo_area, vornakey) WHERE 
 -- Several rows may have one contour_id, ctry and adm: the program tells the operator of it.
 CREATE TABLE lmz_contour (
   contourkey  INTEGER PRIMARY KEY,
-  contour_id  REAL,
+  contour_id  REAL CHECK (abs(contour_id) <= 1.7976931348623157e308),
   ctry        TEXT COLLATE NOCASE,
   adm         TEXT COLLATE NOCASE,
   intent      TEXT COLLATE NOCASE,
-  nb_test_pts REAL,
+  nb_test_pts REAL CHECK (abs(nb_test_pts) <= 1.7976931348623157e308),
   remarks     TEXT COLLATE NOCASE,
   d_updated   TEXT CHECK (d_updated IS date(substr(d_updated, 1, 10), '+0 days')),
   d_recog     TEXT CHECK (d_recog IS date(substr(d_recog, 1, 10), '+0 days'))
@@ -122,13 +123,13 @@ CREATE INDEX lmz_sub_area_contourkey ON lmz_sub_area (contourkey);
 CREATE TABLE lmz_contour_pt (
   contourkey INTEGER NOT NULL REFERENCES lmz_contour ON DELETE CASCADE,
   test_pt    INTEGER,
-  long_deg   REAL,
-  long_min   REAL,
-  long_sec   REAL,
+  long_deg   REAL CHECK (abs(long_deg) <= 1.7976931348623157e308),
+  long_min   REAL CHECK (abs(long_min) <= 1.7976931348623157e308),
+  long_sec   REAL CHECK (abs(long_sec) <= 1.7976931348623157e308),
   long_ew    TEXT COLLATE NOCASE,
-  lat_deg    REAL,
-  lat_min    REAL,
-  lat_sec    REAL,
+  lat_deg    REAL CHECK (abs(lat_deg) <= 1.7976931348623157e308),
+  lat_min    REAL CHECK (abs(lat_min) <= 1.7976931348623157e308),
+  lat_sec    REAL CHECK (abs(lat_sec) <= 1.7976931348623157e308),
   lat_ns     TEXT COLLATE NOCASE
 ) STRICT;
 
@@ -137,14 +138,14 @@ CREATE INDEX lmz_contour_pt_contourkey ON lmz_contour_pt (contourkey);
 CREATE TABLE fmtv_art5_target (
   vornakey       INTEGER NOT NULL REFERENCES fmtv_vorna ON DELETE CASCADE,
   trg_adm_ref_id TEXT COLLATE NOCASE,
-  trg_freq_assgn REAL,
-  trg_long_deg   REAL,
-  trg_long_min   REAL,
-  trg_long_sec   REAL,
+  trg_freq_assgn REAL CHECK (abs(trg_freq_assgn) <= 1.7976931348623157e308),
+  trg_long_deg   REAL CHECK (abs(trg_long_deg) <= 1.7976931348623157e308),
+  trg_long_min   REAL CHECK (abs(trg_long_min) <= 1.7976931348623157e308),
+  trg_long_sec   REAL CHECK (abs(trg_long_sec) <= 1.7976931348623157e308),
   trg_long_ew    TEXT COLLATE NOCASE,
-  trg_lat_deg    REAL,
-  trg_lat_min    REAL,
-  trg_lat_sec    REAL,
+  trg_lat_deg    REAL CHECK (abs(trg_lat_deg) <= 1.7976931348623157e308),
+  trg_lat_min    REAL CHECK (abs(trg_lat_min) <= 1.7976931348623157e308),
+  trg_lat_sec    REAL CHECK (abs(trg_lat_sec) <= 1.7976931348623157e308),
   trg_lat_ns     TEXT COLLATE NOCASE
 ) STRICT;
 
@@ -181,16 +182,16 @@ CREATE INDEX fmtv_coord_vornakey ON fmtv_coord (vornakey);
 
 CREATE TABLE fmtv_ant_hgt (
   vornakey INTEGER NOT NULL REFERENCES fmtv_vorna ON DELETE CASCADE,
-  azm      REAL,
-  eff_hgt  REAL
+  azm      REAL CHECK (abs(azm) <= 1.7976931348623157e308),
+  eff_hgt  REAL CHECK (abs(eff_hgt) <= 1.7976931348623157e308)
 ) STRICT;
 
 CREATE INDEX fmtv_ant_hgt_vornakey ON fmtv_ant_hgt (vornakey);
 
 CREATE TABLE fmtv_ant_diag (
   vornakey INTEGER NOT NULL REFERENCES fmtv_vorna ON DELETE CASCADE,
-  azm      REAL,
-  attn     REAL,
+  azm      REAL CHECK (abs(azm) <= 1.7976931348623157e308),
+  attn     REAL CHECK (abs(attn) <= 1.7976931348623157e308),
   polar    TEXT COLLATE NOCASE
 ) STRICT;
 

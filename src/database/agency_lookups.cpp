@@ -25,7 +25,12 @@ bool MasterAgencies::holds(CodesOfAdm& kept, std::string_view column, std::strin
     if (connection_ == nullptr) connection_ = std::make_unique<Connection>(templatePath_);
     // Table and column have one name.
     std::string sql("Select ");
-    sql.append(column).append(" From ").append(column).append(" WHERE adm = '").append(joinedText(adm)).append("'");
+    sql.append(column)
+        .append(" From ")
+        .append(column)
+        .append(" WHERE adm = '")
+        .append(joinedText(adm))
+        .append("'");
     std::vector<std::string> codes;
     for (Recordset rows(sql, *connection_); !rows.atEnd(); rows.MoveNext())
       codes.push_back(rows.value(0).value_or(""));

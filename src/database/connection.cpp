@@ -43,7 +43,9 @@ RunTimeError engineError(sqlite3* database) {
   return {sqlite3_extended_errcode(database), textFromUtf8(sqlite3_errmsg(database))};
 }
 
-void FinalizeStatement::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+void FinalizeStatement::operator()(sqlite3_stmt* statement) const {
+  sqlite3_finalize(statement);
+}
 
 Connection::Connection(const std::string& path) : path_(path) {
   sqlite3* database = nullptr;
@@ -53,8 +55,8 @@ Connection::Connection(const std::string& path) : path_(path) {
   sqlite3_busy_timeout(database, kBusyMilliseconds);
   // The engine doesn't look at the file before the first statement.
   run("PRAGMA foreign_keys = ON; SELECT count(*) FROM sqlite_schema");
-  if (sqlite3_create_function(database, "shown_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, shownText, nullptr,
-                              nullptr) != SQLITE_OK) {
+  if (sqlite3_create_function(database, "shown_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                              shownText, nullptr, nullptr) != SQLITE_OK) {
     throw engineError(database);
   }
 }
@@ -67,16 +69,19 @@ Connection::~Connection() {
   }
 }
 
-void Connection::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+void Connection::Close::operator()(sqlite3* database) const {
+  sqlite3_close_v2(database);
+}
 
 void Connection::BeginTrans() {
   if (inTransaction_) throw RunTimeError{kInvalidArgument, "A transaction is open already"};
-  // With the engine's usual journal each notice would wait for the disk three times. With this one a killed process
-  // loses nothing that was committed; a power cut may lose the last notices, never half of one.
+  // With the engine's usual journal each notice would wait for the disk three times. With this one a killed
+  // process loses nothing that was committed; a power cut may lose the last notices, never half of one.
   if (!journalIsSet_) {
-    run("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 4000; PRAGMA cache_size = -32000");
+    journalIsSet_ = true;
+    run("PRAGMA journal_mode = WAL");
+    run("PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 4000; PRAGMA cache_size = -32000");
   }
-  journalIsSet_ = true;
   run("BEGIN IMMEDIATE");
   inTransaction_ = true;
 }
@@ -93,13 +98,24 @@ void Connection::RollbackTrans() {
   if (sqlite3_get_autocommit(handle()) == 0) run("ROLLBACK");
 }
 
+bool Connection::mergeJournal() {
+  std::string mode;
+  const auto take = [](void* taken, int, char** values, char**) {
+    *static_cast<std::string*>(taken) = values[0];
+    return 0;
+  };
+  const int result = sqlite3_exec(handle(), "PRAGMA journal_mode = DELETE", take, &mode, nullptr);
+  return result == SQLITE_OK && mode == "delete";
+}
+
 void Connection::openTable(std::string_view name) {
   if (openedTables_.contains(name)) return;
   std::string quoted;
   for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
   const std::string sql = "SELECT * FROM \"" + utf8FromText(quoted) + "\"";
   sqlite3_stmt* prepared = nullptr;
-  if (sqlite3_prepare_v2(handle(), sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK) throw engineError(handle());
+  if (sqlite3_prepare_v2(handle(), sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK)
+    throw engineError(handle());
   const Statement statement(prepared);
   openedTables_.emplace(name);
 }
@@ -111,7 +127,8 @@ sqlite3_stmt* Connection::changing(const std::string& sql) {
   Statement& kept = changing_[sql];
   if (kept == nullptr) {
     sqlite3_stmt* prepared = nullptr;
-    if (sqlite3_prepare_v3(handle(), sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &prepared, nullptr) != SQLITE_OK) {
+    if (sqlite3_prepare_v3(handle(), sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &prepared, nullptr) !=
+        SQLITE_OK) {
       throw engineError(handle());
     }
     kept.reset(prepared);

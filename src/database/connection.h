@@ -35,14 +35,18 @@ class Connection {
   // As it was given.
   const std::string& path() const { return path_; }
 
-  // One level of transaction. The first one sets the journal; until then opening leaves the file untouched. A transaction that the engine has ended by itself (for want of room on the disk, say)
-  // takes no more changes and can only be rolled back.
+  // One level of transaction. The first one sets the journal; until then opening leaves the file untouched. A
+  // transaction that the engine has ended by itself (for want of room on the disk, say) takes no more changes
+  // and can only be rolled back.
   void BeginTrans();
   void CommitTrans();
   void RollbackTrans();
 
-  // Opens a table for adding rows and closes it again. Throws when there is no such table. Tables neither come nor go
-  // while a database is open, so each is looked for once.
+  // Writes what stands in the journal into the database file. False when another connection keeps it open.
+  bool mergeJournal();
+
+  // Opens a table for adding rows and closes it again. Throws when there is no such table. Tables neither
+  // come nor go while a database is open, so each is looked for once.
   void openTable(std::string_view name);
 
   // A prepared statement that changes data. It is kept with the connection and comes back reset.

@@ -1,5 +1,6 @@
 #include "database/db_connection.h"
 
+#include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/message.h"
 #include "platform/run_time_error.h"
@@ -24,13 +25,35 @@ bool holdsTable(Connection& connection, std::string_view table) {
   }
 }
 
-// Beside the destination first, so that a copy that fails leaves what was there. What the engine keeps beside an open
-// database goes with the old file: it would be taken for that of the new one.
+// What the engine keeps beside an open database.
+constexpr const char* kCompanions[] = {"-journal", "-wal", "-shm"};
+
+// Takes what stands in an old database's journal into it, and makes sure that nobody else has it open.
+void settleOldDatabase(const std::string& path) {
+  if (!fileExists(path)) return;
+  try {
+    Connection old(path);
+    if (!old.mergeJournal())
+      throw RunTimeError{kPermissionDenied, "The database is open elsewhere: " + textFromUtf8(path)};
+  } catch (const RunTimeError& error) {
+    // What is no database, or a broken one, is replaced.
+    if (error.number == kPermissionDenied) throw;
+  }
+}
+
+// Beside the destination first, so that a copy that fails leaves what was there. What stands beside the old
+// database goes with it: the engine would take it for that of the new one.
 void copyDatabaseFile(const std::string& from, const std::string& destination) {
+  if (isSameFile(from, destination)) {
+    throw RunTimeError{kPermissionDenied, "The template can't be its own copy: " + textFromUtf8(destination)};
+  }
+  requireRemovable(destination);
+  for (const char* ending : kCompanions) requireRemovable(destination + ending);
   const std::string beside = destination + ".part";
   copyFile(from, beside);
   try {
-    for (const char* ending : {"", "-journal", "-wal", "-shm"}) removeFile(destination + ending);
+    settleOldDatabase(destination);
+    for (const char* ending : kCompanions) removeFile(destination + ending);
     renameFile(beside, destination);
   } catch (const RunTimeError&) {
     removeFile(beside);
@@ -92,15 +115,17 @@ bool dbHasAddrCodeTable(const Host& host, Connection& connection) {
   return holdsTable(connection, "addr_code") || tellOldStructure(host);
 }
 
-void copyMasterDB(const Host& host, const std::string& destination, const std::string& templatePath) {
+bool copyMasterDB(const Host& host, const std::string& destination, const std::string& templatePath) {
   try {
     copyDatabaseFile(templatePath, destination);
+    return true;
   } catch (const RunTimeError& error) {
     if (error.number == kFileNotFound) {
       host.showBox({kNoTemplate.filled({}), ""});
     } else {
       host.showBox({kCopyFailed.filled({std::to_string(error.number), error.text}), ""});
     }
+    return false;
   }
 }
 

@@ -14,7 +14,9 @@ namespace {
 // The engine's own number for a statement that it can't take.
 constexpr int kSyntaxError = 1;
 
-[[noreturn]] void throwSyntaxError(const std::string& text) { throw RunTimeError{kSyntaxError, text}; }
+[[noreturn]] void throwSyntaxError(const std::string& text) {
+  throw RunTimeError{kSyntaxError, text};
+}
 
 enum class TokenKind { word, text, date, other };
 
@@ -23,17 +25,21 @@ struct Token {
   std::string_view text;  // with its quotes or marks
 };
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 bool isWordCharacter(char c) {
   return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '.';
 }
 
 bool isSignOfExponent(std::string_view sql, std::size_t numberAt, std::size_t at) {
-  return (isDigit(sql[numberAt]) || sql[numberAt] == '.') && (sql[at] == '+' || sql[at] == '-') && (sql[at - 1] == 'e' || sql[at - 1] == 'E');
+  return (isDigit(sql[numberAt]) || sql[numberAt] == '.') && (sql[at] == '+' || sql[at] == '-') &&
+         (sql[at - 1] == 'e' || sql[at - 1] == 'E');
 }
 
-// Behind the closing mark; one that is doubled belongs to the text. Without one the engine gets the rest as it is, to refuse it in its own words.
+// Behind the closing mark; one that is doubled belongs to the text. Without one the engine gets the rest as
+// it is, to refuse it in its own words.
 std::size_t endOfQuoted(std::string_view sql, std::size_t at, char mark) {
   std::size_t end = sql.find(mark, at + 1);
   while (end != std::string_view::npos && sql.substr(end + 1, 1) == std::string_view(&mark, 1)) {
@@ -112,7 +118,8 @@ std::string engineToken(const std::vector<Token>& tokens, std::size_t at) {
   if (isJoiner(tokens, at)) return "||";
   const Token& token = tokens[at];
   std::string text = token.kind == TokenKind::date ? engineDate(token.text) : std::string(token.text);
-  const bool isOperand = token.kind != TokenKind::other && ((at > 0 && isJoiner(tokens, at - 1)) || isJoiner(tokens, at + 1));
+  const bool isOperand =
+      token.kind != TokenKind::other && ((at > 0 && isJoiner(tokens, at - 1)) || isJoiner(tokens, at + 1));
   return isOperand ? "shown_text(" + text + ")" : text;
 }
 
@@ -137,7 +144,8 @@ std::string_view joinedText(std::string_view value) {
 }
 
 std::string_view joinedNumber(std::string_view value) {
-  if (!isNumericText(value)) throwSyntaxError("Syntax error: no number in the statement: " + std::string(value));
+  if (!isNumericText(value))
+    throwSyntaxError("Syntax error: no number in the statement: " + std::string(value));
   return value;
 }
 

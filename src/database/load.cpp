@@ -37,18 +37,19 @@ const Message kReportFallback("box \"Information\": no text viewer for the dupli
 // clang-format on
 
 // A number as the report prints it.
-std::string spaced(std::int64_t number) { return " " + std::to_string(number) + " "; }
+std::string spaced(std::int64_t number) {
+  return " " + std::to_string(number) + " ";
+}
 
 // The duplicates report, written as the load goes on and gone when it has nothing to tell.
 class DuplicatesReport {
  public:
   DuplicatesReport(const Host& host, const LoadRun& load) : path_(reportPath(load.ntcFileName, host.now())) {
     const DateTime now = host.now();
-    writeFile(path_, "");
-    add(kReportTitle.filled({textFromUtf8(load.ntcFileName)}));
-    add(kReportProgram.filled({load.windowCaption}));
-    add(kReportStamp.filled({shortDateText(now.date), timeText(now), getLogonName(host)}));
-    add(" ");
+    replaceFile(path_, kReportTitle.filled({textFromUtf8(load.ntcFileName)}) + "\r\n" +
+                           kReportProgram.filled({load.windowCaption}) + "\r\n" +
+                           kReportStamp.filled({shortDateText(now.date), timeText(now), getLogonName(host)}) +
+                           "\r\n \r\n");
   }
 
   void add(std::string_view line) { appendToFile(path_, std::string(line).append(kLineEnd)); }
@@ -68,8 +69,9 @@ class DuplicatesReport {
   static std::string reportPath(const std::string& ntcFileName, const DateTime& now) {
     const Date& date = now.date;
     return baseOf(ntcFileName) + "_duplicat_report_" + std::to_string(static_cast<unsigned>(date.day())) +
-           std::to_string(static_cast<unsigned>(date.month())) + std::to_string(static_cast<int>(date.year())) + "-" +
-           std::to_string(now.hour) + std::to_string(now.minute) + std::to_string(now.second) + ".txt";
+           std::to_string(static_cast<unsigned>(date.month())) +
+           std::to_string(static_cast<int>(date.year())) + "-" + std::to_string(now.hour) +
+           std::to_string(now.minute) + std::to_string(now.second) + ".txt";
   }
 
   std::string path_;
@@ -98,10 +100,12 @@ Duplicate findDuplicate(Loading& loading, std::int32_t& key) {
   const bool isAssignment = type == "GT1" || type == "GS1";
   const bool isAllotment = type == "GT2" || type == "GS2";
   if (!isAssignment && !isAllotment) return Duplicate::none;
-  if (findByAdmRefId(loading.host, ntc.t_adm_ref_id, ntc.t_adm, key, loading.connection)) return Duplicate::reference;
+  if (findByAdmRefId(loading.host, ntc.t_adm_ref_id, ntc.t_adm, key, loading.connection))
+    return Duplicate::reference;
   const auto findByElements = isAssignment ? findAssignmentByElements : findAllotmentByElements;
-  return findByElements(loading.host, ntc, key, loading.foundReference, loading.connection) ? Duplicate::elements
-                                                                                          : Duplicate::none;
+  return findByElements(loading.host, ntc, key, loading.foundReference, loading.connection)
+             ? Duplicate::elements
+             : Duplicate::none;
 }
 
 void reportLeftOut(Loading& loading, Duplicate duplicate) {
@@ -112,10 +116,11 @@ void reportLeftOut(Loading& loading, Duplicate duplicate) {
   report.add(" ");
 }
 
-void reportStored(Loading& loading, Duplicate duplicate, std::int32_t newKey, std::int32_t foundKey) {
+void reportStored(Loading& loading, Duplicate duplicate, std::int64_t newKey, std::int32_t foundKey) {
   DuplicatesReport& report = loading.report;
   const std::string& reference = loading.reading.ntc.t_adm_ref_id;
-  report.add(duplicate == Duplicate::reference ? kReferenceRepeated.filled({reference}) : kElementsRepeated.filled({}));
+  report.add(duplicate == Duplicate::reference ? kReferenceRepeated.filled({reference})
+                                               : kElementsRepeated.filled({}));
   report.add(kInputNotice.filled({spaced(loading.result.noticesRead)}));
   report.add(kBothRows.filled({spaced(newKey), reference, spaced(foundKey), loading.foundReference}));
   report.add(" ");
@@ -127,7 +132,8 @@ void reportContour(Loading& loading, const ContourOutcome& outcome) {
   report.mark();
   report.add(kContourRepeated.filled({loading.reading.ntc.digital.contour.t_contour_id}));
   report.add(kInputNotice.filled({spaced(loading.result.noticesRead)}));
-  if (outcome.status == ContourStatus::replaced) report.add(kContourOverwritten.filled({spaced(outcome.replacedKey)}));
+  if (outcome.status == ContourStatus::replaced)
+    report.add(kContourOverwritten.filled({spaced(outcome.replacedKey)}));
   report.add(" ");
 }
 
@@ -140,15 +146,15 @@ void storeNotice(Loading& loading) {
     getLastVornaKey(loading.host, loading.connection, lastKey);
     loading.report.mark();
     const Message& question = duplicate == Duplicate::reference ? kRepeatsReference : kRepeatsElements;
-    const bool wanted =
-        loading.host.askYesNo({question.filled({std::to_string(loading.result.noticesRead)}), "DataBase : Error"});
+    const bool wanted = loading.host.askYesNo(
+        {question.filled({std::to_string(loading.result.noticesRead)}), "DataBase : Error"});
     if (!wanted) return reportLeftOut(loading, duplicate);
   }
   ContourOutcome outcome;
   const bool stored = writeNtcToDB(loading.host, ntc, loading.connection, outcome, false);
   loading.result.complete = stored && loading.result.complete;
   if (duplicate != Duplicate::none) {
-    reportStored(loading, duplicate, admNumericBase(ntc.t_adm) + lastKey + 1, foundKey);
+    reportStored(loading, duplicate, std::int64_t{admNumericBase(ntc.t_adm)} + lastKey + 1, foundKey);
   }
   if (ntc.t_notice_type == "GA1") reportContour(loading, outcome);
 }
@@ -180,7 +186,8 @@ void loadNotice(Loading& loading) {
 
 }  // namespace
 
-LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load, Connection& connection) {
+LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load,
+                                Connection& connection) {
   return guarded(host, "readNtcsFromFileToDB", [&] {
     Loading loading{host,
                     SectionReading{lines, load.ntc, {}, {}, {}},
@@ -196,8 +203,11 @@ LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadR
       while (!lines.atEnd()) {
         readLine(loading.reading);
         // Unlike the checks, the load takes these tags in upper case alone.
-        if (loading.reading.currentLine == kHeadTag) loadHead(loading);
-        if (loading.reading.currentLine == kNoticeTag) loadNotice(loading);
+        if (loading.reading.currentLine == kHeadTag) {
+          loadHead(loading);
+        } else if (loading.reading.currentLine == kNoticeTag) {
+          loadNotice(loading);
+        }
       }
       return true;
     });

@@ -1,4 +1,5 @@
-// The load of a validated notice file into the working database, with its test for duplicates and their report.
+// The load of a validated notice file into the working database, with its test for duplicates and their
+// report.
 #pragma once
 
 #include <cstdint>
@@ -25,9 +26,10 @@ struct LoadResult {
   bool complete = false;         // the whole file was read, and nothing was rolled back
 };
 
-// Reads the notices of the file to its end and stores each in a transaction of its own; a notice that repeats an entry
-// is stored only if the user says so. A failure of the reader is shown in the common error box and ends the load;
-// earlier notices stay.
-LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load, Connection& connection);
+// Reads the notices of the file to its end and stores each in a transaction of its own; a notice that repeats
+// an entry is stored only if the user says so. A failure of the reader is shown in the common error box and
+// ends the load; earlier notices stay.
+LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadRun& load,
+                                Connection& connection);
 
 }  // namespace zamo

@@ -13,16 +13,21 @@
 namespace zamo {
 namespace {
 
-bool isBlank(std::string_view text) { return text.find_first_not_of(" \t\r\n;") == std::string_view::npos; }
+bool isBlank(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n;") == std::string_view::npos;
+}
 
-RunTimeError notOneSelect() { return {kInvalidArgument, "A recordset takes one SELECT and nothing else"}; }
+RunTimeError notOneSelect() {
+  return {kInvalidArgument, "A recordset takes one SELECT and nothing else"};
+}
 
 Statement prepareSelect(const std::string& sql, sqlite3* database) {
   // Looked at before the engine sees it: a PRAGMA takes effect when it is prepared.
   if (!equalsIgnoringCase(trimText(sql).substr(0, 6), "SELECT")) throw notOneSelect();
   sqlite3_stmt* prepared = nullptr;
   const char* tail = nullptr;
-  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) != SQLITE_OK) {
+  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) !=
+      SQLITE_OK) {
     throw engineError(database);
   }
   Statement statement(prepared);
@@ -56,7 +61,9 @@ std::string tableOfWholeRows(std::string_view engineSelect) {
 }
 
 // The template names all columns of dates alike, and no others.
-bool isDateField(std::string_view field) { return field.starts_with("d_"); }
+bool isDateField(std::string_view field) {
+  return field.starts_with("d_");
+}
 
 std::string storedDate(std::string_view text) {
   std::string slashed(text);
@@ -67,7 +74,8 @@ std::string storedDate(std::string_view text) {
 
 }  // namespace
 
-Recordset::Recordset(std::string_view source, Connection& connection, OpenAs openAs) : connection_(&connection) {
+Recordset::Recordset(std::string_view source, Connection& connection, OpenAs openAs)
+    : connection_(&connection) {
   if (openAs == OpenAs::table) {
     connection.openTable(source);
     table_ = source;
@@ -196,7 +204,8 @@ void Recordset::insertPending() {
     names += one.field;
     places += "?";
   }
-  runChange("INSERT INTO " + table_ + (pending_.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + places + ")"),
+  runChange("INSERT INTO " + table_ +
+                (pending_.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + places + ")"),
             pending_, {});
 }
 
@@ -204,7 +213,8 @@ void Recordset::updatePending() {
   const Row& row = currentRow();
   if (!rowsHaveRowid_) throw RunTimeError{kInvalidArgument, "The rows of this recordset can't be changed"};
   std::string settings;
-  for (const Pending& one : pending_) settings.append(settings.empty() ? "" : ", ").append(one.field).append(" = ?");
+  for (const Pending& one : pending_)
+    settings.append(settings.empty() ? "" : ", ").append(one.field).append(" = ?");
   runChange("UPDATE " + table_ + " SET " + settings + " WHERE rowid = ?", pending_, row.rowid);
 }
 
@@ -240,7 +250,8 @@ void Recordset::runChange(const std::string& sql, const std::vector<Pending>& va
         sqlite3_bind_null(statement, place);
         break;
       case Pending::Kind::text:
-        sqlite3_bind_text(statement, place, one.text.data(), static_cast<int>(one.text.size()), SQLITE_STATIC);
+        sqlite3_bind_text(statement, place, one.text.data(), static_cast<int>(one.text.size()),
+                          SQLITE_STATIC);
         break;
       case Pending::Kind::whole:
         sqlite3_bind_int64(statement, place, one.whole);

@@ -13,9 +13,10 @@ namespace zamo {
 
 enum class OpenAs { sqlText = 1, table = 2 };
 
-// SQL text is in the code page and in the dialect of the operations. Anything but one SELECT is refused, so that values
-// joined into the text can never change data. The rows of "SELECT * FROM" one table, with or without a condition, can be
-// changed; a table opened as such only takes new rows. Every failure is thrown as a RunTimeError.
+// SQL text is in the code page and in the dialect of the operations. Anything but one SELECT is refused, so
+// that values joined into the text can never change data. The rows of "SELECT * FROM" one table, with or
+// without a condition, can be changed; a table opened as such only takes new rows. Every failure is thrown as
+// a RunTimeError.
 class Recordset {
  public:
   Recordset(std::string_view source, Connection& connection, OpenAs openAs = OpenAs::sqlText);
@@ -34,8 +35,8 @@ class Recordset {
 
   // Begins a new row, which Update stores with the fields that were set. It doesn't join the rows read here.
   void AddNew();
-  // Sets a field of the current row, for Update. Nothing clears it. Text is converted by the engine to the kind of the
-  // column; columns of dates take a date in any of its forms.
+  // Sets a field of the current row, for Update. Nothing clears it. Text is converted by the engine to the
+  // kind of the column; columns of dates take a date in any of its forms.
   void Collect(std::string_view field, std::optional<std::string_view> text);
   void Collect(std::string_view field, std::int64_t number);
   void CollectReal(std::string_view field, double number);
@@ -68,7 +69,8 @@ class Recordset {
   void setPending(Pending pending);
   void insertPending();
   void updatePending();
-  void runChange(const std::string& sql, const std::vector<Pending>& values, std::optional<std::int64_t> rowid);
+  void runChange(const std::string& sql, const std::vector<Pending>& values,
+                 std::optional<std::int64_t> rowid);
 
   Connection* connection_;
   std::string table_;  // whose rows can be changed, or that takes new ones

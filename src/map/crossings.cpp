@@ -54,6 +54,10 @@ GzmpPoint meetingPlace(const Segment& one, const Segment& other) {
           static_cast<float>(one.from.x + share * (one.to.x - one.from.x))};
 }
 
+bool hasNoLength(const Segment& segment) {
+  return segment.from.x == segment.to.x && segment.from.y == segment.to.y;
+}
+
 // The corners of the polygon, with longitudes that run on across the antimeridian.
 std::vector<Spot> cornersOf(const std::vector<GzmpPoint>& points) {
   std::vector<Spot> corners;
@@ -82,6 +86,14 @@ GzmpCrossings findCrossings(const std::vector<GzmpPoint>& points) {
   for (std::size_t i = 0; i + 1 < corners.size(); ++i)
     segments.push_back(segmentOf(corners[i], corners[i + 1]));
   const std::size_t last = segments.size() - 1;
+  // Up to three segments all follow each other, so equal points are told by themselves.
+  if (segments.size() < 4) {
+    for (std::size_t i = 0; i + 1 < segments.size(); ++i) {
+      if (!hasNoLength(segments[i]) && !(i + 1 == last && hasNoLength(segments[last]))) continue;
+      found.segments.push_back({static_cast<int>(i + 1), static_cast<int>(i + 2)});
+      found.places.push_back({static_cast<float>(segments[i].to.y), static_cast<float>(segments[i].to.x)});
+    }
+  }
   for (std::size_t i = 0; i < segments.size(); ++i) {
     for (std::size_t j = i + 2; j < segments.size(); ++j) {
       if (!boxesMeet(segments[i], segments[j]) || (i == 0 && j == last)) continue;

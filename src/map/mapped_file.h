@@ -1,4 +1,4 @@
-// A file's content in memory without reading it.
+// A file's content in memory, shared with whatever else has it mapped.
 #pragma once
 
 #include <cstddef>

@@ -81,7 +81,7 @@ WorldMap makeWorldMap(const std::string& dataFile) {
     return opened->data ? kGzmpUnit : kGzmpNoData;
   };
   map.gzmp.gzmpParseCoords = parseCoords;
-  // The pages around the point are loaded by the system when they are touched.
+  // Everything is mapped already.
   map.gzmp.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
   map.gzmp.gzmpCountryAtPoint = [opened](const GzmpPoint& point) {
     return countryAtPoint(opened->data.get(), point);

@@ -125,7 +125,7 @@ bool holdsNumber(std::span<const std::string> ids, std::string_view value) {
 void placeContourId(NoticeReading& notice, std::string_view value) {
   auto& places = notice.section.ntc.digital.allot.t_contour_id;
   if (notice.contourIds == places.size()) {
-    notice.messages += duplicateKey(notice.section);
+    notice.messages += kDuplicateKey.filled({notice.section.prefix, "t_contour_id"});
   } else {
     places[notice.contourIds++] = value;
   }

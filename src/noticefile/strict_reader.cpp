@@ -130,11 +130,7 @@ bool accepts(StrictReading& reading, const PlanEntryRule& rule, std::string_view
 
 bool accepts(StrictReading& reading, const SystemVariantRule& rule, std::string_view value) {
   if (value.size() >= 3) return refuse(reading, rule.lengthMessage);
-  constexpr std::string_view letters = "ABCDEF";
-  constexpr std::string_view digits = "12357";
-  const bool good = value.size() == 2 && letters.find(value[0]) != std::string_view::npos &&
-                    digits.find(value[1]) != std::string_view::npos;
-  return good || refuse(reading, rule.message);
+  return isSystemVariant(value) || refuse(reading, rule.message);
 }
 
 // A row of any of the tables, together with the test that its table asks for.
@@ -250,6 +246,13 @@ bool readSubsection(StrictReading& reading) {
 }
 
 }  // namespace
+
+bool isSystemVariant(std::string_view variant) {
+  constexpr std::string_view letters = "ABCDEF";
+  constexpr std::string_view digits = "12357";
+  return variant.size() == 2 && letters.find(variant[0]) != std::string_view::npos &&
+         digits.find(variant[1]) != std::string_view::npos;
+}
 
 bool hasKeyPrefix(std::string_view key) {
   return key.size() >= 2 && lowerChar(key[0]) == 't' && key[1] == '_';

@@ -43,4 +43,7 @@ bool valReadAntDiagrV(StrictReading& reading);
 // True when "t_" stands at the first place of the key, in any case.
 bool hasKeyPrefix(std::string_view key);
 
+// Two characters: a letter from A to F in upper case, then 1, 2, 3, 5 or 7.
+bool isSystemVariant(std::string_view variant);
+
 }  // namespace zamo

@@ -94,17 +94,26 @@ void copyFile(const std::string& from, const std::string& destination) {
   }
 }
 
+bool isSameFile(const std::string& one, const std::string& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(one, other, error);
+}
+
+void requireReadable(const std::string& path) {
+  const OpenFile opened(path, O_RDONLY | O_CLOEXEC);
+}
+
+void requireRemovable(const std::string& path) {
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) throw fileError(EISDIR, path);
+}
+
 void removeFile(const std::string& path) {
   if (::unlink(path.c_str()) != 0 && errno != ENOENT) throw fileError(errno, path);
 }
 
 void renameFile(const std::string& from, const std::string& to) {
   if (std::rename(from.c_str(), to.c_str()) != 0) throw fileError(errno, to);
-}
-
-void writeFile(const std::string& path, std::string_view content) {
-  OpenFile file(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
-  file.write(content);
 }
 
 void appendToFile(const std::string& path, std::string_view content) {

@@ -19,12 +19,18 @@ void replaceFile(const std::string& path, std::string_view content);
 // RunTimeError is thrown.
 void copyFile(const std::string& from, const std::string& destination);
 
+// Whether both paths lead to one file.
+bool isSameFile(const std::string& one, const std::string& other);
+
+// Opens the file for reading and closes it again. Throws RunTimeError.
+void requireReadable(const std::string& path);
+
+// Throws RunTimeError when the path is taken by something that is no file.
+void requireRemovable(const std::string& path);
+
 // Either throws RunTimeError. A file that isn't there is removed already.
 void removeFile(const std::string& path);
 void renameFile(const std::string& from, const std::string& to);
-
-// Writes a file anew in place. Throws RunTimeError.
-void writeFile(const std::string& path, std::string_view content);
 
 // Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
 void appendToFile(const std::string& path, std::string_view content);

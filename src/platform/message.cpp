@@ -10,7 +10,9 @@ namespace {
 // Filled while the program's static objects are made, so it can't be one that is made itself.
 constinit const MessageListing* lastListing = nullptr;
 
-std::string_view fileName(std::string_view path) { return path.substr(path.rfind('/') + 1); }
+std::string_view fileName(std::string_view path) {
+  return path.substr(path.rfind('/') + 1);
+}
 
 }  // namespace
 

@@ -1,9 +1,10 @@
-// What the tool tells an operator, with what brings it about: each message lists itself for the reference of messages.
+// What the tool tells an operator, with what brings it about: each message lists itself for the reference of
+// messages.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <initializer_list>
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -65,7 +66,8 @@ class Message : public MessageListing {
   std::string_view words_;
 };
 
-// The messages of a table's rows: the member `message` of each, or all that its member function `allWords` gives.
+// The messages of a table's rows: the member `message` of each, or all that its member function `allWords`
+// gives.
 class TableMessages : public MessageListing {
  public:
   template <typename Row, std::size_t Count>

@@ -34,12 +34,12 @@ std::string_view stageName(Stage stage) {
   return "ok";
 }
 
-void printVerdict(const std::string& file, const Verdict& verdict) {
+// Gives whether standard output took it.
+bool printVerdict(const std::string& file, const Verdict& verdict) {
   std::string line = file + "\t" + std::string(stageName(verdict.failedAt));
   if (!verdict.report.empty()) line += "\t" + verdict.report;
   std::fflush(stderr);
-  std::puts(line.c_str());
-  std::fflush(stdout);
+  return std::puts(line.c_str()) >= 0 && std::fflush(stdout) == 0;
 }
 
 // Which of the stages the files go through.
@@ -57,7 +57,7 @@ int judgeFiles(const std::vector<std::string>& files, int level, bool answer, Ju
     shell.run.ValLevel = static_cast<std::int16_t>(level);
     shell.run.NtcFileName = file;
     const Verdict verdict = judge(shell);
-    printVerdict(file, verdict);
+    if (!printVerdict(file, verdict)) status = kFailed;
     if (!verdict.passed()) status = std::max<int>(status, verdict.machineFailed ? kFailed : kFindings);
   }
   return status;
@@ -72,16 +72,19 @@ int show(const std::string& databasePath, std::int32_t key, bool isContour) {
   if (!read(host, key, ntc, *connection)) return kFailed;
   const auto target = [&](std::int32_t targetKey) {
     TargetElements elements;
-    getTargetElements(host, targetKey, elements.freq_assgn, elements.longitude, elements.latitude, *connection);
+    getTargetElements(host, targetKey, elements.freq_assgn, elements.longitude, elements.latitude,
+                      *connection);
     return elements;
   };
   const std::string text = isContour ? makeContourNotice(ntc, 1) : makeNoticeSection(ntc, 1, target);
-  std::puts(utf8FromText(text).c_str());
-  return kNothingFound;
+  const bool printed = std::puts(utf8FromText(text).c_str()) >= 0 && std::fflush(stdout) == 0;
+  return printed ? kNothingFound : kFailed;
 }
 
 void addLevel(CLI::App& command, int& level) {
-  command.add_option("--level", level, "1: basic validation; 2: complete validation without geographic checks; 3: with them")
+  command
+      .add_option("--level", level,
+                  "1: basic validation; 2: complete validation without geographic checks; 3: with them")
       ->check(CLI::Range(kBasic, kCompleteWithGeo))
       ->capture_default_str();
 }
@@ -100,7 +103,8 @@ int runBatch(int argc, const char* const* argv) {
   checking->add_option("FILE", files, "Notice files")->required();
 
   bool answer = true;
-  CLI::App* const loading = app.add_subcommand("load", "The same, and then the working database of each file");
+  CLI::App* const loading =
+      app.add_subcommand("load", "The same, and then the working database of each file");
   addLevel(*loading, level);
   loading->add_flag("--yes,!--no", answer, "Answer every question with Yes, as is usual, or with No");
   loading->add_option("FILE", files, "Notice files")->required();
@@ -108,7 +112,8 @@ int runBatch(int argc, const char* const* argv) {
   std::string database;
   std::int32_t key = 0;
   bool isContour = false;
-  CLI::App* const showing = app.add_subcommand("show", "One notice of a working database, as it is written to a file");
+  CLI::App* const showing =
+      app.add_subcommand("show", "One notice of a working database, as it is written to a file");
   showing->add_flag("--contour", isContour, "KEY is that of a contour");
   showing->add_option("DB", database, "Working database")->required();
   showing->add_option("KEY", key, "Key of the notice")->required();

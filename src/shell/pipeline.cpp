@@ -41,6 +41,7 @@ const Message kNoViewerForInput("box \"Information\": no text viewer for the inp
 // clang-format on
 
 void showStatus(Shell& shell, const Message& status) {
+  shell.screen.statusVisible = true;
   shell.draw(shell.screen);
   shell.host.setStatus(status.words());
   shell.host.repaint();
@@ -91,11 +92,13 @@ const CompleteLevel kWithGeo = {
     true, kCompleteRunsWithGeo, {Stage::complete, kCompleteHasErrorsWithGeo}, kReportWithGeo, true};
 
 void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, const StageResult& result,
-                 std::initializer_list<std::string_view> reportItems) {
+                 std::string_view findings, std::initializer_list<std::string_view> reportItems) {
   verdict.failedAt = failed.stage;
   verdict.machineFailed = result.machineFailed;
   showValidationButtons(shell, true);
   showStatus(shell, failed.status);
+  // The user has been told already why there is nothing to report.
+  if (result.machineFailed && findings.empty()) return;
   const std::string report = outcomeReportPath(shell.run.NtcFileName);
   writeReport(report, reportItems);
   verdict.report = report;
@@ -136,17 +139,17 @@ void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& lev
     showValidationButtons(shell, false);
     shell.draw(shell.screen);
   } else if (level.blankLine) {
-    tellFailure(shell, verdict, level.errors, complete,
+    tellFailure(shell, verdict, level.errors, complete, errText,
                 {kReportComplete.words(), level.reportLine.words(), " ", errText});
   } else {
-    tellFailure(shell, verdict, level.errors, complete,
+    tellFailure(shell, verdict, level.errors, complete, errText,
                 {kReportComplete.words(), level.reportLine.words(), errText});
   }
 }
 
 bool isTemplateReadable(const Host& host) {
   try {
-    const LineSource opened(masterTemplatePath());
+    requireReadable(masterTemplatePath());
     return true;
   } catch (const RunTimeError& error) {
     host.showBox({kNoTemplate.filled({std::to_string(error.number)}), ""});
@@ -223,7 +226,7 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   }
   if (!structure.passed) {
     disableQueryMenus(shell);
-    return tellFailure(shell, verdict, kFormatErrors, structure, {errText});
+    return tellFailure(shell, verdict, kFormatErrors, structure, errText, {errText});
   }
 
   errText.clear();
@@ -237,7 +240,7 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   if (!basic.passed) {
     disableQueryMenus(shell);
     return tellFailure(
-        shell, verdict, kBasicErrors, basic,
+        shell, verdict, kBasicErrors, basic, errText,
         {kReportVersion.words(), reportStampLine(shell.host), " ", kReportBasic.words(), errText});
   }
   shell.screen.queryEnabled = true;
@@ -264,7 +267,11 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
   shell.screen.fileName = trimText(textFromUtf8(run.NtcFileName));
   shell.draw(shell.screen);
   run.DbFileName = baseOf(run.NtcFileName) + ".mdb";
-  copyMasterDB(shell.host, run.DbFileName);
+  if (isSameFile(run.DbFileName, run.NtcFileName)) {
+    throw RunTimeError{kPermissionDenied,
+                       "The notice file stands where its database would: " + textFromUtf8(run.DbFileName)};
+  }
+  const bool copied = copyMasterDB(shell.host, run.DbFileName);
   showStatus(shell, kCreating);
   resetAdm(run.CurrNtc);
   LineSource lines(run.NtcFileName);
@@ -276,7 +283,9 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
       showReportInNotepad(shell.host, path, messageHead);
     };
     const LoadRun load{run.CurrNtc, run.NtcFileName, kWindowVersion, showReport};
-    if (!OpenDB(shell.host, run.DbFileName, run.DbConn)) return fail();
+    // What stands there after a failed copy is another run's, and not to be added to.
+    const bool isOld = !copied && fileExists(run.DbFileName);
+    if (isOld || !OpenDB(shell.host, run.DbFileName, run.DbConn)) return fail();
     if (!readNtcsFromFileToDB(shell.host, lines, load, *run.DbConn).complete) fail();
   }
   shell.screen.fileName.insert(0, "TEXT FILE : ");
@@ -285,9 +294,10 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
 
 Verdict judgeFile(Shell& shell) {
   Verdict verdict;
-  if (!runStage(shell, verdict, "checkFormatAndBasic", checkFormatAndBasic) || !verdict.passed()) return verdict;
+  if (!runStage(shell, verdict, "checkFormatAndBasic", checkFormatAndBasic) || !verdict.passed())
+    return verdict;
   // Findings of complete validation stop no run: the tool is there to correct such notices.
-  verdict.mayLoad = true;
+  verdict.mayLoad = shell.run.ValLevel == kBasic;
   if (shell.run.ValLevel == kCompleteWithoutGeo) {
     verdict.mayLoad = runStage(shell, verdict, "completeValidationNoGeo", completeValidationNoGeo);
   } else if (shell.run.ValLevel == kCompleteWithGeo) {

@@ -18,7 +18,8 @@ struct MapOpening {
       open;  // the library's three opening calls; gives the unit number, -1 without data files
 };
 
-// The map of the run, from its data file beside the executable. The shell keeps the map; it is opened by openMap.
+// The map of the run, from its data file beside the executable. The shell keeps the map; it is opened by
+// openMap.
 MapOpening mapBesideExecutable(Shell& shell);
 
 // Opens the map for the run. A data file that is missing or can't be used is told in a box, and gives false.

@@ -184,7 +184,8 @@ bool checkContourMandatory(const NtcRec& ntc, std::string& errs, std::string_vie
   RuleReport report{errs, label};
   demand(report, ntc, kMandatoryForContour);
   const auto& points = ntc.digital.contour.points;
-  for (std::size_t i = 0; static_cast<double>(i) < notifiedPoints(ntc); ++i) {
+  const double notified = notifiedPoints(ntc);
+  for (std::size_t i = 0; static_cast<double>(i) < notified; ++i) {
     if (i >= points.size()) throw RunTimeError{kIndexOutOfRange, "Subscript out of range"};
     if (!points[i].present) report.fatal(kPointMissing);
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "noticefile/strict_reader.h"
 #include "noticefile/strict_tables.h"
 #include "platform/numbers.h"
 #include "platform/run_time_error.h"
@@ -55,10 +56,9 @@ void join(RuleReport& report, const NtcRec& ntc, RuleGroup group) {
 }
 
 void checkTbValues(RuleReport& report, const NtcRec& ntc) {
-  // The result of these replaces what stood before.
-  if (isType(ntc, "TB5")) report.good = checkTb5Values(ntc, report.errs, report.label);
-  if (isType(ntc, "TB3")) report.good = checkTb3Values(ntc, report.errs, report.label);
-  if (isType(ntc, "TB2")) report.good = checkTb2Values(ntc, report.errs, report.label);
+  if (isType(ntc, "TB5")) join(report, ntc, checkTb5Values);
+  if (isType(ntc, "TB3")) join(report, ntc, checkTb3Values);
+  if (isType(ntc, "TB2")) join(report, ntc, checkTb2Values);
 }
 
 void checkAction(RuleReport& report, const NtcRec& ntc) {

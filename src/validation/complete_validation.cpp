@@ -65,7 +65,8 @@ void validateNotice(Validation& validation) {
   std::string label = "Notice No : " + number + " at line number : " + std::to_string(reading.lines.lineNo());
   readLine(reading);
   resetNtc(ntc);
-  validation.host.setStatus((validation.map != nullptr ? kStatusWithGeo : kStatusWithoutGeo).filled({number}));
+  validation.host.setStatus(
+      (validation.map != nullptr ? kStatusWithGeo : kStatusWithoutGeo).filled({number}));
   reading.prefix = label;
   const std::string messages = readNoticeSection(reading);
   label += identityOf(ntc);
@@ -101,10 +102,9 @@ StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& re
   }
 }
 
-bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report, const GzmpMap* map,
-                     const AgencyLookups& lookups) {
-  Validation validation{host,           SectionReading{lines, ntc, {}, {}, {}}, report, map, lookups,
-                        host.now().date};
+bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report,
+                     const GzmpMap* map, const AgencyLookups& lookups) {
+  Validation validation{host, SectionReading{lines, ntc, {}, {}, {}}, report, map, lookups, host.now().date};
   SectionReading& reading = validation.reading;
   while (!lines.atEnd()) {
     readLine(reading);

@@ -20,7 +20,7 @@ StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& re
                                   const std::string& filePath, const AgencyLookups& lookups);
 
 // The same on lines. Throws RunTimeError.
-bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report, const GzmpMap* map,
-                     const AgencyLookups& lookups);
+bool validateNotices(const Host& host, LineSource& lines, NtcRec& ntc, std::string& report,
+                     const GzmpMap* map, const AgencyLookups& lookups);
 
 }  // namespace zamo

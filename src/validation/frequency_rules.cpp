@@ -85,11 +85,4 @@ bool checkChannelRaster(const NtcRec& ntc, char letter, std::string& errs, std::
   return report.good;
 }
 
-bool isSystemVariant(std::string_view variant) {
-  constexpr std::string_view letters = "ABCDEF";
-  constexpr std::string_view digits = "12357";
-  return variant.size() == 2 && letters.find(variant[0]) != std::string_view::npos &&
-         digits.find(variant[1]) != std::string_view::npos;
-}
-
 }  // namespace zamo

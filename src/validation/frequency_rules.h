@@ -19,7 +19,4 @@ bool checkDabFrequency(std::string_view frequency, std::string& msg);
 // assigned frequency. A misfit is a warning for fragment NTFD_PZ and fatal otherwise.
 bool checkChannelRaster(const NtcRec& ntc, char letter, std::string& errs, std::string_view label);
 
-// Two characters: a letter from A to F in upper case, then 1, 2, 3, 5 or 7.
-bool isSystemVariant(std::string_view variant);
-
 }  // namespace zamo

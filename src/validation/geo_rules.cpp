@@ -143,9 +143,9 @@ void checkContour(Judge& judge) {
 
 // The map's points of a contour, closed. Throws RunTimeError when there is no room for them.
 std::vector<GzmpPoint> polygonOf(const Host& host, const GzmpMap& map, const ContourRec& contour) {
-  const auto count = static_cast<std::int64_t>(leadingNumber(contour.t_nb_test_pts));
+  const double count = std::trunc(leadingNumber(contour.t_nb_test_pts));
   const RunTimeError outOfRange{kIndexOutOfRange, "Subscript out of range"};
-  if (count < 1 || count > static_cast<std::int64_t>(std::min(kMostPoints, contour.points.size())))
+  if (count < 1 || count > static_cast<double>(std::min(kMostPoints, contour.points.size())))
     throw outOfRange;
   std::vector<GzmpPoint> points(static_cast<std::size_t>(count));
   for (std::size_t i = 0; i < points.size(); ++i) {

@@ -104,8 +104,9 @@ double notifiedPoints(const NtcRec& ntc) {
 
 int countNotifiedPointsPresent(const NtcRec& ntc) {
   const auto& points = ntc.digital.contour.points;
+  const double notified = notifiedPoints(ntc);
   int present = 0;
-  for (std::size_t i = 0; i < points.size() && static_cast<double>(i) < notifiedPoints(ntc); ++i) {
+  for (std::size_t i = 0; i < points.size() && static_cast<double>(i) < notified; ++i) {
     if (points[i].present) ++present;
   }
   return present;

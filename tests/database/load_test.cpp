@@ -20,13 +20,15 @@ using testing::IsEmpty;
 
 constexpr std::string_view kHead = "<HEAD>\nt_adm = F\nt_email_addr = plan@adm.example\n</HEAD>\n";
 
-std::string notice(std::string_view keys) { return "<NOTICE>\n" + std::string(keys) + "</NOTICE>\n"; }
+std::string notice(std::string_view keys) {
+  return "<NOTICE>\n" + std::string(keys) + "</NOTICE>\n";
+}
 
 std::string assignment(std::string_view reference, std::string_view frequency = "474",
                        std::string_view longitude = "+0021000") {
-  return notice("t_notice_type = GT1\nt_action = ADD\nt_fragment = KV19D\nt_adm_ref_id = " + std::string(reference) +
-                "\nt_ctry = F\nt_freq_assgn = " + std::string(frequency) + "\nt_long = " + std::string(longitude) +
-                "\nt_lat = +485000\n");
+  return notice("t_notice_type = GT1\nt_action = ADD\nt_fragment = KV19D\nt_adm_ref_id = " +
+                std::string(reference) + "\nt_ctry = F\nt_freq_assgn = " + std::string(frequency) +
+                "\nt_long = " + std::string(longitude) + "\nt_lat = +485000\n");
 }
 
 std::string contour(std::string_view id, int points = 3) {
@@ -80,7 +82,8 @@ TEST_F(Load, stores_every_notice_with_what_the_load_itself_sets) {
   const LoadResult result = load(std::string(kHead) + assignment("A1") + contour("7"));
   EXPECT_EQ(result.noticesRead, 2);
   EXPECT_TRUE(result.complete);
-  EXPECT_EQ(raw().value("SELECT vornakey || adm || d_rcv || adm_ref_id FROM fmtv_vorna"), "83700001F2026-03-07A1");
+  EXPECT_EQ(raw().value("SELECT vornakey || adm || d_rcv || adm_ref_id FROM fmtv_vorna"),
+            "83700001F2026-03-07A1");
   EXPECT_EQ(raw().value("SELECT email_addr || src_update || d_updated FROM proc_ntc_hist"),
             "plan@adm.exampletester2026-03-07");
   EXPECT_EQ(raw().value("SELECT adm || d_updated FROM lmz_contour"), "F2026-03-07");
@@ -108,7 +111,8 @@ TEST_F(Load, asks_about_a_reference_that_is_there_and_leaves_it_out_on_no) {
   EXPECT_EQ(result.noticesRead, 2);
   EXPECT_EQ(count("fmtv_vorna"), "1");
   ASSERT_EQ(script.questions.size(), 1U);
-  EXPECT_EQ(script.questions[0].text, "Notice No 2: has the same AdminRefID, Adm. Do you still want to save it?");
+  EXPECT_EQ(script.questions[0].text,
+            "Notice No 2: has the same AdminRefID, Adm. Do you still want to save it?");
   EXPECT_EQ(script.questions[0].title, "DataBase : Error");
   EXPECT_EQ(readFile(report()),
             reportHead() + "t_adm_ref_id = A1 - is repeated\r\nInput text file : Notice No :  2 \r\n \r\n");
@@ -120,11 +124,11 @@ TEST_F(Load, stores_a_repeated_reference_as_a_second_row_on_yes) {
   script.answers = {true};
   load(std::string(kHead) + assignment("A1") + assignment("A1", "482"));
   EXPECT_EQ(count("fmtv_vorna"), "2");
-  EXPECT_EQ(readFile(report()),
-            reportHead() +
-                "t_adm_ref_id = A1 - is repeated\r\nInput text file : Notice No :  2 \r\n"
-                "In Assign/Allot database : RecordIndex :  83700002  - Admin_ref_id : A1 and RecordIndex :  83700001  - "
-                "Admin_ref_id : \r\n \r\n");
+  EXPECT_EQ(readFile(report()), reportHead() +
+                                    "t_adm_ref_id = A1 - is repeated\r\nInput text file : Notice No :  2 \r\n"
+                                    "In Assign/Allot database : RecordIndex :  83700002  - Admin_ref_id : A1 "
+                                    "and RecordIndex :  83700001  - "
+                                    "Admin_ref_id : \r\n \r\n");
 }
 
 TEST_F(Load, asks_about_equal_elements_under_another_reference) {
@@ -137,7 +141,8 @@ TEST_F(Load, asks_about_equal_elements_under_another_reference) {
   EXPECT_EQ(readFile(report()),
             reportHead() +
                 "Identifying elements are repeated\r\nInput text file : Notice No :  2 \r\n"
-                "In Assign/Allot database : RecordIndex :  83700002  - Admin_ref_id : A2 and RecordIndex :  83700001  - "
+                "In Assign/Allot database : RecordIndex :  83700002  - Admin_ref_id : A2 and RecordIndex :  "
+                "83700001  - "
                 "Admin_ref_id : A1\r\n \r\n"
                 " Identifying elements are repeated\r\nInput text file : Notice No :  3 \r\n \r\n");
 }
@@ -145,9 +150,10 @@ TEST_F(Load, asks_about_equal_elements_under_another_reference) {
 TEST_F(Load, keeps_the_reference_of_the_last_test_by_elements_for_a_repeated_reference) {
   script.answers = {true, true};
   load(std::string(kHead) + assignment("A1") + assignment("A2") + assignment("A2", "482"));
-  EXPECT_NE(readFile(report()).find("In Assign/Allot database : RecordIndex :  83700003  - Admin_ref_id : A2 and "
-                                    "RecordIndex :  83700002  - Admin_ref_id : A1\r\n"),
-            std::string::npos);
+  EXPECT_NE(
+      readFile(report()).find("In Assign/Allot database : RecordIndex :  83700003  - Admin_ref_id : A2 and "
+                              "RecordIndex :  83700002  - Admin_ref_id : A1\r\n"),
+      std::string::npos);
 }
 
 TEST_F(Load, compares_within_one_administration) {
@@ -156,6 +162,29 @@ TEST_F(Load, compares_within_one_administration) {
   load("<HEAD>\nt_adm = D\n</HEAD>\n" + assignment("A1"));
   EXPECT_THAT(script.questions, IsEmpty());
   EXPECT_EQ(count("fmtv_vorna"), "2");
+}
+
+TEST_F(Load, asks_about_allotments_by_reference_and_by_a_shared_sub_area) {
+  const auto allotment = [](std::string_view type, std::string_view reference, std::string_view id) {
+    return notice("t_notice_type = " + std::string(type) + "\nt_adm_ref_id = " + std::string(reference) +
+                  "\nt_ctry = F\nt_freq_assgn = 498\nt_allot_name = A\nt_nb_sub_areas = 1\nt_contour_id = " +
+                  std::string(id) + "\n");
+  };
+  load(std::string(kHead) + allotment("GT2", "A1", "7") + allotment("GT2", "A1", "8") +
+       allotment("GS2", "A2", "7"));
+  ASSERT_EQ(script.questions.size(), 2U);
+  EXPECT_EQ(script.questions[0].text,
+            "Notice No 2: has the same AdminRefID, Adm. Do you still want to save it?");
+  EXPECT_EQ(script.questions[1].text,
+            "Notice No 3: has the same Identifying elements, Adm. Do you still want to save it?");
+  EXPECT_EQ(script.questions[1].icon, BoxIcon::none);
+  EXPECT_EQ(count("fmtv_vorna"), "1");
+}
+
+TEST_F(Load, refuses_a_number_that_is_beyond_a_double) {
+  const LoadResult result = load(std::string(kHead) + notice("t_notice_type = TB5\nt_hgt_agl = 1e999\n"));
+  EXPECT_FALSE(result.complete);
+  EXPECT_EQ(count("fmtv_vorna"), "0");
 }
 
 TEST_F(Load, asks_nothing_about_tb_notices) {
@@ -170,9 +199,10 @@ TEST_F(Load, reports_a_contour_that_was_replaced) {
   load(std::string(kHead) + contour("7") + contour("7", 4));
   EXPECT_EQ(count("lmz_contour"), "1");
   EXPECT_EQ(count("lmz_contour_pt"), "4");
-  EXPECT_EQ(readFile(report()), reportHead() +
-                                    "lmz_contour_id = 7 - is repeated \r\nInput text file : Notice No :  2 \r\n"
-                                    "In Sub Area database : RecordIndex :  1  Contour ID has been overwritten\r\n \r\n");
+  EXPECT_EQ(readFile(report()),
+            reportHead() +
+                "lmz_contour_id = 7 - is repeated \r\nInput text file : Notice No :  2 \r\n"
+                "In Sub Area database : RecordIndex :  1  Contour ID has been overwritten\r\n \r\n");
 }
 
 TEST_F(Load, reports_a_contour_that_was_not_to_be_replaced) {
@@ -184,8 +214,8 @@ TEST_F(Load, reports_a_contour_that_was_not_to_be_replaced) {
 }
 
 TEST_F(Load, goes_on_behind_a_notice_that_the_database_refuses) {
-  const LoadResult result =
-      load(std::string(kHead) + assignment("A1", "not a number") + assignment("A2") + assignment("A3", "482"));
+  const LoadResult result = load(std::string(kHead) + assignment("A1", "not a number") + assignment("A2") +
+                                 assignment("A3", "482"));
   EXPECT_EQ(result.noticesRead, 3);
   EXPECT_FALSE(result.complete);
   EXPECT_EQ(raw().value("SELECT group_concat(adm_ref_id) FROM fmtv_vorna"), "A2,A3");
@@ -195,9 +225,9 @@ TEST_F(Load, goes_on_behind_a_notice_that_the_database_refuses) {
 }
 
 TEST_F(Load, ends_at_a_failure_of_the_reader_and_keeps_what_came_before) {
-  const LoadResult result = load(std::string(kHead) + assignment("A1") +
-                                 notice("t_notice_type = GA1\n<POINT>\nt_long = +0021000\n</POINT>\n") +
-                                 assignment("A2", "482"));
+  const LoadResult result =
+      load(std::string(kHead) + assignment("A1") +
+           notice("t_notice_type = GA1\n<POINT>\nt_long = +0021000\n</POINT>\n") + assignment("A2", "482"));
   EXPECT_FALSE(result.complete);
   EXPECT_EQ(raw().value("SELECT group_concat(adm_ref_id) FROM fmtv_vorna"), "A1");
   ASSERT_EQ(script.boxes.size(), 1U);

@@ -53,6 +53,14 @@ TEST(Crossings, too_few_points_have_none) {
   EXPECT_EQ(findCrossings({{50, 10}, {51, 10}, {50, 10}}).segments, Segments());
 }
 
+TEST(Crossings, equal_points_of_a_triangle_count_too) {
+  const GzmpPoint a = {50, 10};
+  const GzmpPoint b = {51, 10};
+  EXPECT_EQ(findCrossings({a, a, b}).segments, (Segments{{1, 2}}));
+  EXPECT_EQ(findCrossings({a, b, b}).segments, (Segments{{2, 3}}));
+  EXPECT_EQ(findCrossings({a, a, a}).segments, (Segments{{1, 2}}));
+}
+
 TEST(Crossings, a_ring_of_a_hundred_points_has_none) {
   std::vector<GzmpPoint> points;
   for (int i = 0; i < 50; ++i) points.push_back({50, static_cast<float>(10 + i * 0.01)});

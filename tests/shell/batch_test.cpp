@@ -105,20 +105,23 @@ TEST_F(Batch, a_report_without_room_on_the_disk_ends_with_2_and_leaves_the_old_o
 }
 
 TEST_F(Batch, a_file_is_loaded_and_its_notices_are_shown) {
-  folder.write("good.txt",
-               "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\nt_fragment = KV19D\nt_action = SUPPRESS\n"
-               "t_trg_adm_ref_id = A1\n</NOTICE>\n<NOTICE>\nt_notice_type = GA1\nt_ctry = F\nt_contour_id = 7\n"
-               "t_nb_test_pts = 3\n<POINT>\nt_long = +0021000\nt_lat = +485000\n</POINT>\n</NOTICE>\n"
-               "<TAIL>\nt_num_notices = 2\n</TAIL>\n");
+  folder.write(
+      "good.txt",
+      "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\nt_fragment = KV19D\nt_action = SUPPRESS\n"
+      "t_trg_adm_ref_id = A1\n</NOTICE>\n<NOTICE>\nt_notice_type = GA1\nt_ctry = F\nt_contour_id = 7\n"
+      "t_nb_test_pts = 3\n<POINT>\nt_long = +0021000\nt_lat = +485000\n</POINT>\n</NOTICE>\n"
+      "<TAIL>\nt_num_notices = 2\n</TAIL>\n");
   const Outcome load = run("load --level 1 good.txt");
   EXPECT_EQ(load.status, 0);
   EXPECT_EQ(load.output, "good.txt\tok\n");
-  EXPECT_EQ(run("show good.mdb 83700001").output,
-            "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = TB5\r\nt_action = SUPPRESS\r\nt_fragment = KV19D\r\n"
-            "t_trg_adm_ref_id = A1\r\n</NOTICE>\n");
-  EXPECT_EQ(run("show --contour good.mdb 1").output,
-            "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = GA1\r\nt_ctry = F\r\nt_contour_id = 7\r\n"
-            "t_nb_test_pts = 3\r\n<POINT>\r\nt_long = +0021000\r\nt_lat = +485000\r\n</POINT>\r\n</NOTICE>\n");
+  EXPECT_EQ(
+      run("show good.mdb 83700001").output,
+      "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = TB5\r\nt_action = SUPPRESS\r\nt_fragment = KV19D\r\n"
+      "t_trg_adm_ref_id = A1\r\n</NOTICE>\n");
+  EXPECT_EQ(
+      run("show --contour good.mdb 1").output,
+      "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = GA1\r\nt_ctry = F\r\nt_contour_id = 7\r\n"
+      "t_nb_test_pts = 3\r\n<POINT>\r\nt_long = +0021000\r\nt_lat = +485000\r\n</POINT>\r\n</NOTICE>\n");
   EXPECT_EQ(run("show good.mdb 5").status, 2);
   EXPECT_EQ(run("show missing.mdb 5").status, 2);
   EXPECT_FALSE(std::filesystem::exists(folder.file("good.mdb-wal")));
@@ -132,8 +135,9 @@ TEST_F(Batch, a_question_of_the_load_is_answered_as_the_call_says) {
   EXPECT_EQ(run("load --level 1 --no twice.txt").status, 0);
   EXPECT_EQ(run("show twice.mdb 83700002").status, 2);
   const Outcome yes = run("load --level 1 --yes twice.txt");
-  EXPECT_NE(yes.messages.find("DataBase : Error: Notice No 2: has the same AdminRefID, Adm. Do you still want to save "
-                              "it?\nYes\n"),
+  EXPECT_NE(yes.messages.find(
+                "DataBase : Error: Notice No 2: has the same AdminRefID, Adm. Do you still want to save "
+                "it?\nYes\n"),
             std::string::npos);
   EXPECT_EQ(run("show twice.mdb 83700002").status, 0);
 }
@@ -143,16 +147,19 @@ TEST_F(Batch, a_load_without_room_on_the_disk_ends_with_2_and_keeps_whole_notice
   for (int i = 0; i < 3000; ++i) {
     notices += "<NOTICE>\nt_notice_type = TB5\nt_trg_adm_ref_id = A" + std::to_string(i) + "\n</NOTICE>\n";
   }
-  folder.write("many.txt", "<HEAD>\nt_adm = F\n</HEAD>\n" + notices + "<TAIL>\nt_num_notices = 3000\n</TAIL>\n");
+  folder.write("many.txt",
+               "<HEAD>\nt_adm = F\n</HEAD>\n" + notices + "<TAIL>\nt_num_notices = 3000\n</TAIL>\n");
   const Outcome outcome = run("load --level 1 many.txt", "trap '' XFSZ; ulimit -f 400; ");
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.output, "many.txt\tload\n");
   EXPECT_NE(outcome.messages.find("The data was not saved to the database\n"), std::string::npos);
-  const int sound = std::system(("sqlite3 '" + folder.file("many.mdb") +
-                                 "' 'PRAGMA integrity_check; SELECT count(*) > 0 FROM fmtv_vorna; SELECT count(*) FROM "
-                                 "fmtv_vorna v WHERE (SELECT count(*) FROM proc_ntc_hist p WHERE p.vornakey = "
-                                 "v.vornakey) <> 1' > '" + folder.file("sound.log") + "'")
-                                    .c_str());
+  const int sound =
+      std::system(("sqlite3 '" + folder.file("many.mdb") +
+                   "' 'PRAGMA integrity_check; SELECT count(*) > 0 FROM fmtv_vorna; SELECT count(*) FROM "
+                   "fmtv_vorna v WHERE (SELECT count(*) FROM proc_ntc_hist p WHERE p.vornakey = "
+                   "v.vornakey) <> 1' > '" +
+                   folder.file("sound.log") + "'")
+                      .c_str());
   EXPECT_EQ(sound, 0);
   EXPECT_EQ(readFile(folder.file("sound.log")), "ok\n1\n0\n");
 }
@@ -167,8 +174,9 @@ TEST_F(Batch, without_its_map_the_third_level_is_refused_and_the_others_work) {
     return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
   };
   EXPECT_EQ(runAlone("check good.txt"), 2);
-  EXPECT_EQ(readFile(folder.file("err.log")),
-            "File Missing: The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP\n");
+  EXPECT_EQ(
+      readFile(folder.file("err.log")),
+      "File Missing: The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP\n");
   folder.write("gzmp32d.dat", "no map");
   EXPECT_EQ(runAlone("check --level 3 good.txt"), 2);
   EXPECT_EQ(readFile(folder.file("err.log")), "Can't find GZMP data files\n");
@@ -179,11 +187,12 @@ TEST_F(Batch, without_its_template_nothing_is_loaded_and_an_old_database_stays) 
   std::filesystem::copy_file(ZAMO_BIN "/zamo-kv19-batch", folder.file("alone"));
   folder.write("good.txt", kGoodFile);
   folder.write("good.mdb", "an old database");
-  const int result =
-      std::system(("cd '" + folder.path() + "' && ./alone load --level 1 good.txt >out.log 2>err.log").c_str());
+  const int result = std::system(
+      ("cd '" + folder.path() + "' && ./alone load --level 1 good.txt >out.log 2>err.log").c_str());
   EXPECT_EQ(WEXITSTATUS(result), 2);
   EXPECT_EQ(readFile(folder.file("out.log")), "good.txt\tload\n");
-  EXPECT_TRUE(readFile(folder.file("err.log")).ends_with("Error 53 : \n\rMasterHDLK_WQN.mdb file not found\n"));
+  EXPECT_TRUE(
+      readFile(folder.file("err.log")).ends_with("Error 53 : \n\rMasterHDLK_WQN.mdb file not found\n"));
   EXPECT_EQ(readFile(folder.file("good.mdb")), "an old database");
 }
 

@@ -46,7 +46,8 @@ struct Outcome {
 };
 
 Outcome check(const std::string& file, int level) {
-  const std::string command = "'" ZAMO_BIN "/zamo-kv19-batch' check --level " + std::to_string(level) + " '" + file + "' 2>/dev/null";
+  const std::string command =
+      "'" ZAMO_BIN "/zamo-kv19-batch' check --level " + std::to_string(level) + " '" + file + "' 2>/dev/null";
   Outcome outcome;
   FILE* pipe = ::popen(command.c_str(), "r");
   if (pipe == nullptr) return outcome;

@@ -61,10 +61,10 @@ TEST_F(Pipeline, a_file_with_sound_values_leaves_no_report_and_enables_the_menus
   EXPECT_TRUE(shell.screen.txtDbEnabled);
   EXPECT_FALSE(shell.screen.viewFileVisible);
   EXPECT_FALSE(shell.screen.reValVisible);
-  EXPECT_THAT(script.statuses,
-              ElementsAre("Checking the File format. Please be patient....",
-                          "Basic validation is running. Please be patient....", "Notice no : 1",
-                          "Creating database structure", "Reading and writing to the database", "Notice no : 1"));
+  EXPECT_THAT(script.statuses, ElementsAre("Checking the File format. Please be patient....",
+                                           "Basic validation is running. Please be patient....",
+                                           "Notice no : 1", "Creating database structure",
+                                           "Reading and writing to the database", "Notice no : 1"));
   EXPECT_EQ(script.hourglasses, 0);
 }
 
@@ -106,7 +106,8 @@ TEST_F(Pipeline, a_failed_basic_validation_reports_behind_the_five_header_items)
 // A TB5 that passes as text and meets every rule.
 constexpr std::string_view kGoodNotice =
     "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
-    "<NOTICE>\r\nt_notice_type = TB5\r\nt_fragment = KV19D\r\nt_action = SUPPRESS\r\nt_trg_adm_ref_id = A1\r\n</NOTICE>\r\n"
+    "<NOTICE>\r\nt_notice_type = TB5\r\nt_fragment = KV19D\r\nt_action = SUPPRESS\r\nt_trg_adm_ref_id = "
+    "A1\r\n</NOTICE>\r\n"
     "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n";
 
 TEST_F(Pipeline, complete_validation_without_findings_leaves_no_report_and_hides_the_buttons) {
@@ -117,29 +118,31 @@ TEST_F(Pipeline, complete_validation_without_findings_leaves_no_report_and_hides
   EXPECT_FALSE(shell.screen.viewFileVisible);
   EXPECT_FALSE(shell.screen.reValVisible);
   EXPECT_THAT(script.boxes, IsEmpty());
-  EXPECT_THAT(script.statuses,
-              ElementsAre("Checking the File format. Please be patient....",
-                          "Basic validation is running. Please be patient....", "Notice no : 1",
-                          "Complete validation without geo coordinates is running. Please be patient....",
-                          "Complete validation without Geographic validation : Notice no : 1",
-                          "Creating database structure", "Reading and writing to the database", "Notice no : 1"));
+  EXPECT_THAT(
+      script.statuses,
+      ElementsAre("Checking the File format. Please be patient....",
+                  "Basic validation is running. Please be patient....", "Notice no : 1",
+                  "Complete validation without geo coordinates is running. Please be patient....",
+                  "Complete validation without Geographic validation : Notice no : 1",
+                  "Creating database structure", "Reading and writing to the database", "Notice no : 1"));
   EXPECT_EQ(script.hourglasses, 0);
 }
 
 TEST_F(Pipeline, complete_validation_reports_behind_two_lines_and_keeps_the_menus_enabled) {
   choose("bad.txt", kGoodFile);
   runTextCommand(shell, kCompleteWithoutGeo);
-  EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")),
-            "Basic Validation OK\r\n"
-            "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP\r\n"
-            "FATAL ERROR : \r\n"
-            "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  :  t_action is a mandatory value\r\n"
-            "FATAL ERROR : \r\n"
-            "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  :  t_fragment is a mandatory value\r\n"
-            "FATAL ERROR : \r\n"
-            "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  : t_trg_adm_ref_id is a mandatory value\r\n"
-            "\r\n"
-            "\r\n");
+  EXPECT_EQ(
+      readFile(folder.file("bad_val_outcome.txt")),
+      "Basic Validation OK\r\n"
+      "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP\r\n"
+      "FATAL ERROR : \r\n"
+      "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  :  t_action is a mandatory value\r\n"
+      "FATAL ERROR : \r\n"
+      "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  :  t_fragment is a mandatory value\r\n"
+      "FATAL ERROR : \r\n"
+      "Notice No : 1 at line number : 4 : Trg_Admin_ref_id =  : t_trg_adm_ref_id is a mandatory value\r\n"
+      "\r\n"
+      "\r\n");
   EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
   EXPECT_THAT(script.statuses, Contains("Complete validation without geo coordinates has error(s)."));
   // It is loaded all the same, to be corrected on screen.
@@ -156,26 +159,32 @@ TEST_F(Pipeline, the_third_level_asks_the_map_and_leaves_a_blank_line_in_its_rep
   shell.map.gzmpParseCoords = [](const std::string&) { return GzmpPoint{}; };
   shell.map.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
   shell.map.gzmpCountryAtPoint = [](const GzmpPoint&) { return std::string("   "); };
-  shell.map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) { return GzmpNearest{}; };
+  shell.map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) {
+    return GzmpNearest{};
+  };
   shell.map.gzmpFindCrossings = [](const std::vector<GzmpPoint>&) { return GzmpCrossings{}; };
   std::string points;
   for (const char* lat : {"+485000", "+485100", "+485200"}) {
     points += "<POINT>\r\nt_long = +0021000\r\nt_lat = " + std::string(lat) + "\r\n</POINT>\r\n";
   }
-  choose("contour.txt",
-         "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n<NOTICE>\r\nt_notice_type = GA1\r\nt_action = ADD\r\nt_ctry = F\r\n"
-         "t_contour_id = 7\r\nt_nb_test_pts = 3\r\n" + points +
-             "</NOTICE>\r\n<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n");
+  choose(
+      "contour.txt",
+      "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n<NOTICE>\r\nt_notice_type = GA1\r\nt_action = ADD\r\nt_ctry = F\r\n"
+      "t_contour_id = 7\r\nt_nb_test_pts = 3\r\n" +
+          points + "</NOTICE>\r\n<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n");
   runTextCommand(shell, kCompleteWithGeo);
-  const std::string line = "FATAL ERROR : \r\nNotice No : 1 at line number : 4 : Contour_id = 7 : t_long : +0021000 t_lat : ";
+  const std::string line =
+      "FATAL ERROR : \r\nNotice No : 1 at line number : 4 : Contour_id = 7 : t_long : +0021000 t_lat : ";
   const std::string remark = " are not in F according to the MN's GZMP\r\n";
   EXPECT_EQ(readFile(folder.file("contour_val_outcome.txt")),
             "Basic Validation OK\r\n"
             "Complete Validation WITH validation of the geographical coordination against the GZMP\r\n"
             " \r\n" +
-                line + "+485000" + remark + line + "+485100" + remark + line + "+485200" + remark + "\r\n\r\n");
-  EXPECT_THAT(script.statuses, Contains("Complete validation with validation of the geo coordinates is running. Please "
-                                        "be patient...."));
+                line + "+485000" + remark + line + "+485100" + remark + line + "+485200" + remark +
+                "\r\n\r\n");
+  EXPECT_THAT(script.statuses,
+              Contains("Complete validation with validation of the geo coordinates is running. Please "
+                       "be patient...."));
   EXPECT_THAT(script.statuses, Contains("Complete validation with Geographic validation : Notice no : 1"));
   EXPECT_THAT(script.statuses, Contains("Complete validation with geo coordinates has error(s)."));
   EXPECT_TRUE(shell.screen.reValVisible);
@@ -245,10 +254,55 @@ TEST_F(Pipeline, a_database_that_cannot_be_replaced_is_told_and_left_as_it_is) {
   EXPECT_EQ(verdict.failedAt, Stage::load);
   EXPECT_TRUE(verdict.machineFailed);
   EXPECT_EQ(shell.run.DbConn, nullptr);
-  ASSERT_EQ(script.boxes.size(), 2U);
-  EXPECT_TRUE(script.boxes[0].text.starts_with("Error 70 : Permission denied: ")) << script.boxes[0].text;
-  EXPECT_EQ(script.boxes[1].title, "OpenDB");
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Error 70 : Permission denied: " + folder.file("good.mdb"));
   EXPECT_TRUE(std::filesystem::exists(folder.file("good.mdb/kept")));
+}
+
+TEST_F(Pipeline, an_old_database_is_not_added_to_when_the_template_cannot_be_copied) {
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  std::filesystem::create_directory(folder.file("good.mdb.part"));
+  ButtonReVal(shell);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Error 70 : Permission denied: " + folder.file("good.mdb.part"));
+  EXPECT_EQ(shell.run.DbConn, nullptr);
+  Connection kept(folder.file("good.mdb"));
+  EXPECT_EQ(Recordset("SELECT * FROM fmtv_vorna", kept).RecordCount(), 1);
+}
+
+TEST_F(Pipeline, a_database_that_another_program_has_open_is_left_to_it) {
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  closeDB(shell.run.DbConn);
+  Connection elsewhere(folder.file("good.mdb"));
+  elsewhere.BeginTrans();
+  Recordset rows("SELECT * FROM fmtv_vorna", elsewhere);
+  rows.Collect("adm_ref_id", "CORRECTED");
+  rows.Update();
+  elsewhere.CommitTrans();
+  ButtonReVal(shell);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Error 70 : The database is open elsewhere: " + folder.file("good.mdb"));
+  EXPECT_EQ(Recordset("SELECT adm_ref_id FROM fmtv_vorna", elsewhere).value(0), "CORRECTED");
+}
+
+TEST_F(Pipeline, a_notice_file_is_never_replaced_by_its_database) {
+  shell.run.NtcFileName = folder.write("notices.mdb", kGoodNotice);
+  shell.run.ValLevel = kBasic;
+  EXPECT_TRUE(judgeAndLoadFile(shell).machineFailed);
+  EXPECT_EQ(readFile(folder.file("notices.mdb")), kGoodNotice);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].title, "createAndLoadDb");
+}
+
+TEST_F(Pipeline, revalidating_after_a_cancelled_choice_shows_the_status_again) {
+  choose("bad.txt", kBadValue);
+  runTextCommand(shell, kBasic);
+  runTextCommand(shell, kBasic);
+  EXPECT_FALSE(shell.screen.statusVisible);
+  ButtonReVal(shell);
+  EXPECT_TRUE(shell.screen.statusVisible);
 }
 
 TEST_F(Pipeline, a_report_replaces_the_old_one_and_a_stale_one_stays_after_a_clean_run) {
@@ -349,6 +403,8 @@ TEST_F(Pipeline, a_file_that_vanished_before_revalidation_fails_with_the_box_of_
   EXPECT_EQ(script.boxes[0].text, "Erreur 53:File not found: " + folder.file("gone.txt"));
   EXPECT_EQ(script.boxes[0].title, "Validate File format");
   EXPECT_TRUE(shell.screen.reValVisible);
+  EXPECT_FALSE(std::filesystem::exists(folder.file("gone_val_outcome.txt")));
+  EXPECT_THAT(script.viewed, IsEmpty());
 }
 
 TEST_F(Pipeline, a_directory_is_no_notice_file) {

@@ -50,7 +50,9 @@ GzmpMap makeMapOf(const std::string& code) {
   map.gzmpParseCoords = [](const std::string&) { return GzmpPoint{}; };
   map.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
   map.gzmpCountryAtPoint = [code](const GzmpPoint&) { return code; };
-  map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) { return GzmpNearest{}; };
+  map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) {
+    return GzmpNearest{};
+  };
   map.gzmpFindCrossings = [](const std::vector<GzmpPoint>&) { return GzmpCrossings{}; };
   return map;
 }
@@ -60,8 +62,9 @@ Outcome validateFile(Script& script, const std::string& path, bool withGeo = fal
   Outcome outcome;
   NtcRec ntc;
   const GzmpMap map = makeMapOf("F  ");
-  outcome.passed =
-      runCompleteValidation(makeScriptedHost(script), ntc, outcome.report, withGeo ? &map : nullptr, path, lookups).passed;
+  outcome.passed = runCompleteValidation(makeScriptedHost(script), ntc, outcome.report,
+                                         withGeo ? &map : nullptr, path, lookups)
+                       .passed;
   return outcome;
 }
 

@@ -1,5 +1,7 @@
 #include "validation/frequency_rules.h"
 
+#include "noticefile/strict_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <array>

@@ -374,5 +374,15 @@ TEST(AgencyAndAddress, a_template_that_is_missing_ends_the_group_with_its_error)
   EXPECT_EQ(errs, "");
 }
 
+TEST(ReferenceRules, a_missing_administration_is_not_looked_up_again) {
+  NtcRec ntc;
+  ntc.t_notice_type = "GT2";
+  ntc.t_ctry = "F";
+  ntc.digital.allot.t_geo_area = "F";
+  std::string errs;
+  EXPECT_TRUE(checkNtcRefs(ntc, errs, "label"));
+  EXPECT_EQ(errs, "");
+}
+
 }  // namespace
 }  // namespace zamo
