@@ -16,6 +16,9 @@ namespace zamo {
 namespace {
 
 constexpr std::size_t kCopyBuffer = 256 * std::size_t{1024};
+constexpr std::size_t kLargePiece = 64 * std::size_t{1024};
+
+}  // namespace
 
 class OpenFile {
  public:
@@ -59,8 +62,6 @@ class OpenFile {
   std::string path_;
   int descriptor_;
 };
-
-}  // namespace
 
 bool fileExists(const std::string& path, const Yield& yield) {
   if (yield) yield();
@@ -119,6 +120,31 @@ void renameFile(const std::string& from, const std::string& to) {
 void appendToFile(const std::string& path, std::string_view content) {
   OpenFile file(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC);
   file.write(content);
+}
+
+GrowingFile::GrowingFile(const std::string& path)
+    : file_(std::make_unique<OpenFile>(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC)) {}
+
+GrowingFile::~GrowingFile() {
+  try {
+    flush();
+  } catch (const RunTimeError&) {
+    // Whoever lets go of an unfinished file knows that it isn't whole.
+  }
+}
+
+void GrowingFile::write(std::string_view content) {
+  held_ += content;
+  if (held_.size() >= kLargePiece) flush();
+}
+
+void GrowingFile::flush() {
+  if (!held_.empty()) file_->write(std::exchange(held_, {}));
+}
+
+void GrowingFile::close() {
+  flush();
+  file_->closeFlushed();
 }
 
 std::string baseOf(std::string_view path) {

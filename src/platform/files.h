@@ -1,6 +1,7 @@
 // Files by path: what is there, and writing that never leaves half a file under its final name.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -34,6 +35,30 @@ void renameFile(const std::string& from, const std::string& to);
 
 // Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
 void appendToFile(const std::string& path, std::string_view content);
+
+class OpenFile;
+
+// A file that grows while it is written. Every failure is thrown as a RunTimeError.
+class GrowingFile {
+ public:
+  // Creates the file; one that is there is emptied.
+  explicit GrowingFile(const std::string& path);
+  GrowingFile(const GrowingFile&) = delete;
+  GrowingFile& operator=(const GrowingFile&) = delete;
+  // Gives the file what it holds back, without a word when that fails.
+  ~GrowingFile();
+
+  // Adds at the end. Small pieces are held back until they make a large one.
+  void write(std::string_view content);
+  // Gives the file all that is held back.
+  void flush();
+  // The same and puts the file on the disk. Nothing may be written behind it.
+  void close();
+
+ private:
+  std::unique_ptr<OpenFile> file_;
+  std::string held_;
+};
 
 // A path less its last four characters, whatever they are.
 std::string baseOf(std::string_view path);

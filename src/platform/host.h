@@ -14,10 +14,13 @@ namespace zamo {
 
 enum class BoxIcon { none, information, exclamation, exclamationAndInformation };
 
+enum class BoxButtons { ok, cancelTryContinue };
+
 struct Box {
   std::string text;
   std::string title;  // empty: the program's own name
   BoxIcon icon = BoxIcon::none;
+  BoxButtons buttons = BoxButtons::ok;
 };
 
 struct OpenFileRequest {
@@ -29,6 +32,9 @@ struct OpenFileRequest {
 struct Host {
   std::function<void(const Box&)> showBox;
   std::function<bool(const Box&)> askYesNo;
+  // One line of text from the user; empty on Cancel.
+  std::function<std::string(const Box&)> askText;
+  std::function<void()> beep;
   std::function<void(std::string_view)> setStatus;
   std::function<void()> repaint;
   Yield yield;

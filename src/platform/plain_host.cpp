@@ -35,6 +35,11 @@ Host makePlainHost(bool answer) {
     printLine(answer ? "Yes" : "No");
     return answer;
   };
+  host.askText = [](const Box& box) {
+    printBox(box);
+    return std::string();
+  };
+  host.beep = [] {};
   host.setStatus = printLine;
   host.repaint = [] {};
   host.setHourglass = [](bool) {};

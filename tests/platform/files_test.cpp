@@ -175,6 +175,70 @@ TEST(AppendToFile, failures_are_errors_with_a_number) {
   EXPECT_EQ(errorOf([&] { appendToFile(folder.path(), "x"); }).number, 70);
 }
 
+TEST(GrowingFile, holds_what_was_written_in_small_and_large_pieces) {
+  const TempFolder folder;
+  const std::string path = folder.file("a.txt");
+  const std::string large(300'000, 'x');
+  GrowingFile file(path);
+  file.write("a\r\n");
+  file.write(large);
+  file.write("");
+  file.write("\261");
+  file.close();
+  EXPECT_EQ(readFile(path), "a\r\n" + large + "\261");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(GrowingFile, empties_what_is_there_and_shows_what_was_flushed) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "a long old text");
+  GrowingFile file(path);
+  EXPECT_EQ(readFile(path), "");
+  file.write("new");
+  file.flush();
+  EXPECT_EQ(readFile(path), "new");
+}
+
+TEST(GrowingFile, keeps_all_that_was_written_when_it_is_let_go_of_unfinished) {
+  const TempFolder folder;
+  const std::string path = folder.file("a.txt");
+  { GrowingFile(path).write("half"); }
+  EXPECT_EQ(readFile(path), "half");
+}
+
+TEST(GrowingFile, failures_are_errors_with_a_number) {
+  const TempFolder folder;
+  EXPECT_EQ(errorOf([&] { GrowingFile(folder.file("gone/a.txt")); }).number, 53);
+  EXPECT_EQ(errorOf([&] { GrowingFile{folder.path()}; }).number, 70);
+}
+
+TEST(GrowingFile, a_full_disk_is_noticed_at_the_latest_when_it_is_closed) {
+  const TempFolder folder;
+  const std::string path = folder.file("a.txt");
+  std::filesystem::create_symlink("/dev/full", path);
+  GrowingFile file(path);
+  EXPECT_EQ(errorOf([&] { file.write("small"); }).number, 0);
+  EXPECT_EQ(errorOf([&] { file.close(); }).number, 61);
+  file.write("small");
+  EXPECT_EQ(errorOf([&] { file.flush(); }).number, 61);
+  EXPECT_EQ(errorOf([&] { file.write(std::string(1'000'000, 'x')); }).number, 61);
+}
+
+TEST(GrowingFile, on_a_full_disk_keeps_what_there_was_room_for) {
+  const TempFolder folder;
+  const std::string path = folder.file("a.txt");
+  {
+    const FileSizeLimit limit(100'000);
+    GrowingFile file(path);
+    const RunTimeError error = errorOf([&] {
+      for (int i = 0; i < 200'000; ++i) file.write("x");
+      file.close();
+    });
+    EXPECT_EQ(error.number, 61);
+  }
+  EXPECT_EQ(readFile(path), std::string(100'000, 'x'));
+}
+
 TEST(Base, is_the_path_less_four_characters_whatever_they_are) {
   EXPECT_EQ(baseOf("/tmp/a.txt"), "/tmp/a");
   EXPECT_EQ(baseOf("/tmp/a.upd"), "/tmp/a");

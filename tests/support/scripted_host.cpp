@@ -20,6 +20,11 @@ Host makeScriptedHost(Script& script) {
     script.questions.push_back(box);
     return takeNext(script.answers).value_or(false);
   };
+  host.askText = [&script](const Box& box) {
+    script.prompts.push_back(box);
+    return takeNext(script.texts).value_or("");
+  };
+  host.beep = [&script] { ++script.beeps; };
   host.setStatus = [&script](std::string_view text) { script.statuses.emplace_back(text); };
   host.repaint = [&script] { ++script.repaints; };
   host.yield = [&script] { ++script.yields; };

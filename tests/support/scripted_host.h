@@ -16,15 +16,18 @@ struct Script {
   // Written down.
   std::vector<Box> boxes;
   std::vector<Box> questions;
+  std::vector<Box> prompts;
   std::vector<std::string> statuses;
   std::vector<OpenFileRequest> fileRequests;
   std::vector<std::string> viewed;
   int repaints = 0;
   int yields = 0;
+  int beeps = 0;
   int hourglasses = 0;  // that are turned now
 
-  // Answers. A question without an answer left gets No, a dialog without one is cancelled.
+  // Answers. A question without an answer left gets No, a prompt or a dialog without one is cancelled.
   std::deque<bool> answers;
+  std::deque<std::string> texts;
   std::deque<std::string> files;
   std::deque<std::string> folders;
   std::map<std::string, std::string, std::less<>> settings;
