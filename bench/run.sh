@@ -87,3 +87,4 @@ awk -v check="$(median check_small)" -v completely="$(median check_completely)" 
     row("level 3, peak memory, 20,000 notices", sprintf("%.1f MB", small3 / 1024), "under 150 MB")
   }'
 "$here/load.sh" "$(dirname "$program")" "$input"
+"$here/export.sh" "$(dirname "$program")" "$input"

@@ -49,7 +49,9 @@ void FinalizeStatement::operator()(sqlite3_stmt* statement) const {
 
 Connection::Connection(const std::string& path) : path_(path) {
   sqlite3* database = nullptr;
-  const int result = sqlite3_open_v2(absolutePath(path).c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
+  // Everything runs on one thread.
+  constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+  const int result = sqlite3_open_v2(absolutePath(path).c_str(), &database, flags, nullptr);
   database_.reset(database);
   if (result != SQLITE_OK) throw engineError(database);
   sqlite3_busy_timeout(database, kBusyMilliseconds);
@@ -63,6 +65,10 @@ Connection::Connection(const std::string& path) : path_(path) {
 
 Connection::~Connection() {
   changing_.clear();
+  // A recordset that outlives the connection doesn't keep the file open.
+  for (const auto& [sql, select] : keptSelects_) {
+    if (select != nullptr) select->statement.reset();
+  }
   // Back into one file, which can be copied and opened anywhere.
   if (journalIsSet_) {
     sqlite3_exec(database_.get(), "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
@@ -138,8 +144,22 @@ sqlite3_stmt* Connection::changing(const std::string& sql) {
   return kept.get();
 }
 
+std::shared_ptr<PreparedSelect>& Connection::keptSelect(std::string_view sql) {
+  const auto found = keptSelects_.find(sql);
+  return found != keptSelects_.end() ? found->second : keptSelects_[std::string(sql)];
+}
+
 void Connection::run(const char* sql) {
   if (sqlite3_exec(handle(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) throw engineError(handle());
+}
+
+ReadingOneState::ReadingOneState(Connection& connection) : database_(connection.handle()) {
+  if (sqlite3_exec(database_, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK) throw engineError(database_);
+}
+
+ReadingOneState::~ReadingOneState() {
+  // There is nothing to store; an error has ended it already.
+  sqlite3_exec(database_, "COMMIT", nullptr, nullptr, nullptr);
 }
 
 }  // namespace zamo

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/run_time_error.h"
 
@@ -22,6 +24,15 @@ struct FinalizeStatement {
   void operator()(sqlite3_stmt* statement) const;
 };
 using Statement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+
+// A SELECT as the engine has prepared it.
+struct PreparedSelect {
+  Statement statement;
+  std::string table;  // whose whole rows it gives, the rowid in front of the fields; empty for any other
+  std::vector<std::string> fields;
+
+  int firstField() const { return table.empty() ? 0 : 1; }
+};
 
 // Every failure is thrown as a RunTimeError with the engine's number and text.
 class Connection {
@@ -52,6 +63,9 @@ class Connection {
   // A prepared statement that changes data. It is kept with the connection and comes back reset.
   sqlite3_stmt* changing(const std::string& sql);
 
+  // Where a SELECT that is asked again and again is kept, by its text; empty until one is put there.
+  std::shared_ptr<PreparedSelect>& keptSelect(std::string_view sql);
+
   sqlite3* handle() { return database_.get(); }
 
  private:
@@ -64,9 +78,23 @@ class Connection {
   std::string path_;
   std::unique_ptr<sqlite3, Close> database_;
   std::unordered_map<std::string, Statement> changing_;
+  std::map<std::string, std::shared_ptr<PreparedSelect>, std::less<>> keptSelects_;
   std::set<std::string, std::less<>> openedTables_;
   bool inTransaction_ = false;
   bool journalIsSet_ = false;
+};
+
+// All that is read while it lives is of one state of the database, and the file is locked once and not for
+// each statement. No transaction may be open, and none be begun.
+class ReadingOneState {
+ public:
+  explicit ReadingOneState(Connection& connection);
+  ReadingOneState(const ReadingOneState&) = delete;
+  ReadingOneState& operator=(const ReadingOneState&) = delete;
+  ~ReadingOneState();
+
+ private:
+  sqlite3* database_;
 };
 
 }  // namespace zamo

@@ -3,6 +3,8 @@
 
 #include <charconv>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -11,9 +13,8 @@
 
 namespace zamo {
 
-// The key in a field of the current row. A Null, and what is no 32-bit number, is thrown as a RunTimeError.
-inline std::int32_t keyValue(const Recordset& rows, std::string_view field) {
-  const std::optional<std::string>& text = rows.value(field);
+// The key that a value is. A Null, and what is no 32-bit number, is thrown as a RunTimeError.
+inline std::int32_t toKey(const std::optional<std::string>& text) {
   if (!text) throw RunTimeError{kTypeMismatch, "Type mismatch"};
   std::int32_t key = 0;
   const char* end = text->data() + text->size();
@@ -21,6 +22,11 @@ inline std::int32_t keyValue(const Recordset& rows, std::string_view field) {
   if (failed == std::errc::result_out_of_range) throw RunTimeError{kOverflow, "Overflow"};
   if (failed != std::errc() || last != end) throw RunTimeError{kTypeMismatch, "Type mismatch"};
   return key;
+}
+
+// The key in a field of the current row; errors likewise.
+inline std::int32_t keyValue(const Recordset& rows, std::string_view field) {
+  return toKey(rows.value(field));
 }
 
 }  // namespace zamo

@@ -8,6 +8,7 @@
 #include "database/key_value.h"
 #include "database/operation.h"
 #include "database/recordset.h"
+#include "database/row_cursor.h"
 #include "noticefile/writer_text.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -82,10 +83,10 @@ bool countPoints(const Host& host, double expected, std::int32_t contourkey, Con
 }
 
 std::vector<std::int32_t> keysOf(std::string_view sql, std::string_view field, Connection& connection) {
-  Recordset rows(sql, connection);
+  RowCursor rows(sql, connection);
+  const std::size_t column = rows.columnOf(field);
   std::vector<std::int32_t> keys;
-  keys.reserve(static_cast<std::size_t>(rows.RecordCount()));
-  for (rows.MoveFirst(); !rows.atEnd(); rows.MoveNext()) keys.push_back(keyValue(rows, field));
+  while (rows.next()) keys.push_back(toKey(rows.value(column)));
   return keys;
 }
 

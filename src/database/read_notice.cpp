@@ -251,10 +251,6 @@ constexpr Column<Position> kPositionColumns[] = {
 };
 // clang-format on
 
-Recordset rowsOf(std::string_view statement, std::int32_t key, Connection& connection) {
-  return Recordset(std::string(statement) + std::to_string(key), connection);
-}
-
 [[noreturn]] void throwOutOfRange() {
   throw RunTimeError{kIndexOutOfRange, "Subscript out of range"};
 }
@@ -346,7 +342,7 @@ bool readContourNtcFromDB(const Host& host, std::int32_t contourkey, NtcRec& ntc
 
 bool readFromKv19Vorna(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection) {
   return guarded(host, "readFromKv19Vorna", [&] {
-    const Recordset rows = rowsOf("SELECT * FROM fmtv_vorna WHERE vornakey = ", key, connection);
+    const Recordset rows("SELECT * FROM fmtv_vorna WHERE vornakey = ?", key, connection);
     if (rows.RecordCount() != 1) return false;
     readColumns(rows, kNoticeColumns, ntc);
     if (readColumns(rows, kDigitalColumns, ntc.digital)) ntc.digital.present = true;
@@ -365,9 +361,8 @@ bool readContour(const Host& host, std::int32_t contourkey, NtcRec& ntc, Connect
         "lmz_contour_pt.lat_sec, lmz_contour_pt.lat_ns"
         " FROM lmz_contour INNER JOIN lmz_contour_pt ON"
         " lmz_contour.contourkey = lmz_contour_pt.contourkey WHERE"
-        " lmz_contour.contourkey = " +
-            std::to_string(contourkey) + " ORDER BY lmz_contour_pt.test_pt",
-        connection);
+        " lmz_contour.contourkey = ? ORDER BY lmz_contour_pt.test_pt",
+        contourkey, connection);
     if (rows.atEnd()) {
       const bool found = readOnlyContourID(host, contourkey, ntc, connection);
       if (!found) host.showBox({kContourMissing.filled({std::to_string(contourkey)}), kReadError});
@@ -389,11 +384,11 @@ bool readContour(const Host& host, std::int32_t contourkey, NtcRec& ntc, Connect
 
 bool readOnlyContourID(const Host& host, std::int32_t contourkey, NtcRec& ntc, Connection& connection) {
   return guarded(host, "readOnlyContourID", [&] {
-    const Recordset rows = rowsOf(
+    const Recordset rows(
         "SELECT lmz_contour.contourkey, lmz_contour.contour_id, lmz_contour.ctry, lmz_contour.adm, "
         "lmz_contour.remarks, lmz_contour.d_updated, lmz_contour.d_recog, lmz_contour.nb_test_pts FROM "
         "lmz_contour"
-        " WHERE lmz_contour.contourkey = ",
+        " WHERE lmz_contour.contourkey = ?",
         contourkey, connection);
     if (rows.RecordCount() != 1) return false;
     ContourRec& contour = ntc.digital.contour;
@@ -412,7 +407,7 @@ bool readOnlyContourID(const Host& host, std::int32_t contourkey, NtcRec& ntc, C
 
 bool readFromAllotment(const Host& host, std::int32_t key, DigitalRec& digital, Connection& connection) {
   return guarded(host, "readFromAllotment", [&] {
-    const Recordset rows = rowsOf("SELECT * from lmz_allotment WHERE vornakey = ", key, connection);
+    const Recordset rows("SELECT * from lmz_allotment WHERE vornakey = ?", key, connection);
     if (rows.RecordCount() != 1) {
       host.showBox({kAllotmentNotUnique.filled({std::to_string(key)}), kReadError});
       return false;
@@ -425,10 +420,10 @@ bool readFromAllotment(const Host& host, std::int32_t key, DigitalRec& digital, 
 
 bool readSubArea(const Host& host, std::int32_t allotkey, DigitalRec& digital, Connection& connection) {
   return guarded(host, "readSubArea", [&] {
-    Recordset rows = rowsOf(
+    Recordset rows(
         "SELECT lmz_contour.contour_id FROM lmz_sub_area"
         " INNER JOIN lmz_contour ON lmz_sub_area.contourkey = lmz_contour.contourkey"
-        " WHERE allotkey = ",
+        " WHERE allotkey = ?",
         allotkey, connection);
     auto& places = digital.allot.t_contour_id;
     for (std::size_t place = 0; !rows.atEnd(); rows.MoveNext(), ++place) {
@@ -441,7 +436,7 @@ bool readSubArea(const Host& host, std::int32_t allotkey, DigitalRec& digital, C
 
 bool readFromFmtvArt5target(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection) {
   return guarded(host, "readFromFmtvArt5target", [&] {
-    const Recordset rows = rowsOf("SELECT * FROM fmtv_art5_target WHERE vornakey = ", key, connection);
+    const Recordset rows("SELECT * FROM fmtv_art5_target WHERE vornakey = ?", key, connection);
     if (!rows.atEnd()) readColumns(rows, kTargetColumns, ntc);
     return true;
   });
@@ -449,7 +444,7 @@ bool readFromFmtvArt5target(const Host& host, std::int32_t key, NtcRec& ntc, Con
 
 bool readFromKv19OpPrds(const Host& host, std::int32_t key, OpHoursRec& hours, Connection& connection) {
   return guarded(host, "readFromKv19OpPrds", [&] {
-    const Recordset rows = rowsOf("SELECT * FROM fmtv_op_prd WHERE vornakey = ", key, connection);
+    const Recordset rows("SELECT * FROM fmtv_op_prd WHERE vornakey = ?", key, connection);
     if (rows.atEnd()) return true;
     hours.present = true;
     readColumns(rows, kHoursColumns, hours);
@@ -459,7 +454,7 @@ bool readFromKv19OpPrds(const Host& host, std::int32_t key, OpHoursRec& hours, C
 
 bool readFromKv19AntHgt(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection) {
   return guarded(host, "readFromKv19AntHgt", [&] {
-    Recordset rows = rowsOf("SELECT * FROM fmtv_ant_hgt WHERE vornakey = ", key, connection);
+    Recordset rows("SELECT * FROM fmtv_ant_hgt WHERE vornakey = ?", key, connection);
     // The administrator gets both reports: of the data, and of the access to the closed recordset that
     // follows.
     const auto tellAndClose = [&](const Message& message) {
@@ -478,8 +473,7 @@ bool readFromKv19AntHgt(const Host& host, std::int32_t key, NtcRec& ntc, Connect
 bool readFromKV19AntDiagr_H(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection) {
   return guarded(host, "readFromKV19AntDiagr_H", [&] {
     return readDiagram(
-        Recordset("SELECT * FROM fmtv_ant_diag WHERE vornakey = " + std::to_string(key) + " AND polar = 'H' ",
-                  connection),
+        Recordset("SELECT * FROM fmtv_ant_diag WHERE vornakey = ? AND polar = 'H' ", key, connection),
         ntc.ant_diagr_h);
   });
 }
@@ -487,15 +481,13 @@ bool readFromKV19AntDiagr_H(const Host& host, std::int32_t key, NtcRec& ntc, Con
 bool readFromKv19AntDiagr_V(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection) {
   return guarded(host, "readFromKv19AntDiagr_V", [&] {
     return readDiagram(
-        Recordset("SELECT * FROM fmtv_ant_diag WHERE vornakey = " + std::to_string(key) + " AND polar = 'V' ",
-                  connection),
+        Recordset("SELECT * FROM fmtv_ant_diag WHERE vornakey = ? AND polar = 'V' ", key, connection),
         ntc.ant_diagr_v);
   });
 }
 
 bool readCoord(std::int32_t key, CoordListRec& coord, Connection& connection) {
-  Recordset rows("SELECT * FROM fmtv_coord WHERE vornakey = " + std::to_string(key) +
-                     " AND coord_st = 'COORD COMPLETED'",
+  Recordset rows("SELECT * FROM fmtv_coord WHERE vornakey = ? AND coord_st = 'COORD COMPLETED'", key,
                  connection);
   if (rows.atEnd()) return true;
   coord.count = static_cast<std::int32_t>(rows.RecordCount());
@@ -510,7 +502,7 @@ bool readCoord(std::int32_t key, CoordListRec& coord, Connection& connection) {
 }
 
 bool readProcNtcHist(std::int32_t key, NtcRec& ntc, Connection& connection) {
-  const Recordset rows = rowsOf("SELECT * FROM proc_ntc_hist WHERE vornakey = ", key, connection);
+  const Recordset rows("SELECT * FROM proc_ntc_hist WHERE vornakey = ?", key, connection);
   if (rows.RecordCount() != 1) return true;
   ntc.digital.present = true;
   readColumns(rows, kHistoryAddress, ntc.digital);
@@ -521,7 +513,7 @@ bool readProcNtcHist(std::int32_t key, NtcRec& ntc, Connection& connection) {
 bool readNotifierRmks(std::int32_t key, NtcRec& ntc, Connection& connection) {
   ntc.t_remarks.clear();
   ntc.t_int_remarks.clear();
-  for (Recordset rows = rowsOf("SELECT * FROM fmtv_rmks WHERE vornakey = ", key, connection); !rows.atEnd();
+  for (Recordset rows("SELECT * FROM fmtv_rmks WHERE vornakey = ?", key, connection); !rows.atEnd();
        rows.MoveNext()) {
     const std::optional<std::string>& text = rows.value("rmk_text");
     const std::string type = rows.value("rmk_type").value_or("");

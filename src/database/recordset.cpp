@@ -5,49 +5,13 @@
 #include <algorithm>
 
 #include "database/dialect.h"
+#include "database/select_statement.h"
 #include "platform/code_page.h"
 #include "platform/dates.h"
-#include "platform/numbers.h"
 #include "platform/text.h"
 
 namespace zamo {
 namespace {
-
-bool isBlank(std::string_view text) {
-  return text.find_first_not_of(" \t\r\n;") == std::string_view::npos;
-}
-
-RunTimeError notOneSelect() {
-  return {kInvalidArgument, "A recordset takes one SELECT and nothing else"};
-}
-
-Statement prepareSelect(const std::string& sql, sqlite3* database) {
-  // Looked at before the engine sees it: a PRAGMA takes effect when it is prepared.
-  if (!equalsIgnoringCase(trimText(sql).substr(0, 6), "SELECT")) throw notOneSelect();
-  sqlite3_stmt* prepared = nullptr;
-  const char* tail = nullptr;
-  if (sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()), &prepared, &tail) !=
-      SQLITE_OK) {
-    throw engineError(database);
-  }
-  Statement statement(prepared);
-  const bool isWhole = isBlank({tail, static_cast<std::size_t>(sql.c_str() + sql.size() - tail)});
-  if (!isWhole || sqlite3_stmt_readonly(prepared) == 0) throw notOneSelect();
-  return statement;
-}
-
-std::optional<std::string> columnText(sqlite3_stmt* statement, int column) {
-  switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_NULL:
-      return {};
-    case SQLITE_FLOAT:
-      return numberText(sqlite3_column_double(statement, column));
-    default: {
-      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-      return textFromUtf8({text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
-    }
-  }
-}
 
 // The table of a "SELECT * FROM table", alone or with a WHERE; empty for any other statement.
 std::string tableOfWholeRows(std::string_view engineSelect) {
@@ -59,6 +23,30 @@ std::string tableOfWholeRows(std::string_view engineSelect) {
   const bool isOneTable = behind.empty() || equalsIgnoringCase(behind.substr(0, 6), "WHERE ");
   return isOneTable ? std::string(rest.substr(0, end)) : std::string();
 }
+
+PreparedSelect makeSelect(std::string_view sql, unsigned flags, Connection& connection) {
+  PreparedSelect select;
+  std::string text = utf8FromText(engineSql(sql));
+  select.table = tableOfWholeRows(text);
+  if (!select.table.empty()) text.replace(0, std::string_view("SELECT *").size(), "SELECT rowid, *");
+  select.statement = prepareSelect(text, flags, connection);
+  for (int column = select.firstField(); column < sqlite3_column_count(select.statement.get()); ++column) {
+    select.fields.push_back(textFromUtf8(sqlite3_column_name(select.statement.get(), column)));
+  }
+  return select;
+}
+
+// Lets the engine go of what a statement has open.
+class ResetAtEnd {
+ public:
+  explicit ResetAtEnd(sqlite3_stmt* statement) : statement_(statement) {}
+  ResetAtEnd(const ResetAtEnd&) = delete;
+  ResetAtEnd& operator=(const ResetAtEnd&) = delete;
+  ~ResetAtEnd() { sqlite3_reset(statement_); }
+
+ private:
+  sqlite3_stmt* statement_;
+};
 
 // The template names all columns of dates alike, and no others.
 bool isDateField(std::string_view field) {
@@ -79,29 +67,35 @@ Recordset::Recordset(std::string_view source, Connection& connection, OpenAs ope
   if (openAs == OpenAs::table) {
     connection.openTable(source);
     table_ = source;
-  } else {
-    openSelect(source);
+    return;
   }
+  const auto select = std::make_shared<PreparedSelect>(makeSelect(source, 0, connection));
+  select_ = select;
+  readRows();
+  select->statement.reset();
 }
 
-void Recordset::openSelect(std::string_view sql) {
-  std::string select = utf8FromText(engineSql(sql));
-  table_ = tableOfWholeRows(select);
-  rowsHaveRowid_ = !table_.empty();
-  if (rowsHaveRowid_) select.replace(0, std::string_view("SELECT *").size(), "SELECT rowid, *");
-  const Statement statement = prepareSelect(select, connection_->handle());
-  const int firstField = rowsHaveRowid_ ? 1 : 0;
-  for (int column = firstField; column < sqlite3_column_count(statement.get()); ++column) {
-    fields_.push_back(textFromUtf8(sqlite3_column_name(statement.get(), column)));
+Recordset::Recordset(std::string_view select, std::int32_t key, Connection& connection)
+    : connection_(&connection) {
+  std::shared_ptr<PreparedSelect>& kept = connection.keptSelect(select);
+  if (kept == nullptr) {
+    kept = std::make_shared<PreparedSelect>(makeSelect(select, SQLITE_PREPARE_PERSISTENT, connection));
   }
+  select_ = kept;
+  sqlite3_bind_int(select_->statement.get(), 1, key);
+  readRows();
+}
+
+void Recordset::readRows() {
+  table_ = select_->table;
+  sqlite3_stmt* statement = select_->statement.get();
+  const ResetAtEnd reset(statement);
+  const int firstField = select_->firstField();
+  const int end = firstField + static_cast<int>(select_->fields.size());
   int result = SQLITE_DONE;
-  while ((result = sqlite3_step(statement.get())) == SQLITE_ROW) {
-    Row& row = rows_.emplace_back();
-    if (rowsHaveRowid_) row.rowid = sqlite3_column_int64(statement.get(), 0);
-    row.values.reserve(fields_.size());
-    for (int column = firstField; column < sqlite3_column_count(statement.get()); ++column) {
-      row.values.push_back(columnText(statement.get(), column));
-    }
+  while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
+    rows_.push_back({firstField == 0 ? 0 : sqlite3_column_int64(statement, 0), false});
+    for (int column = firstField; column < end; ++column) values_.push_back(columnText(statement, column));
   }
   if (result != SQLITE_DONE) throw engineError(connection_->handle());
 }
@@ -132,15 +126,18 @@ void Recordset::MoveNext() {
 }
 
 const std::optional<std::string>& Recordset::value(std::size_t column) const {
-  const Row& row = currentRow();
-  if (column >= row.values.size()) throw RunTimeError{kIndexOutOfRange, "No such field"};
-  return row.values[column];
+  currentRow();
+  const std::size_t count = select_->fields.size();
+  if (column >= count) throw RunTimeError{kIndexOutOfRange, "No such field"};
+  return values_[position_ * count + column];
 }
 
 const std::optional<std::string>& Recordset::value(std::string_view field) const {
-  const auto found = std::find_if(fields_.begin(), fields_.end(),
+  currentRow();
+  const std::vector<std::string>& fields = select_->fields;
+  const auto found = std::find_if(fields.begin(), fields.end(),
                                   [field](const std::string& one) { return equalsIgnoringCase(one, field); });
-  return value(static_cast<std::size_t>(found - fields_.begin()));
+  return value(static_cast<std::size_t>(found - fields.begin()));
 }
 
 void Recordset::AddNew() {
@@ -211,7 +208,7 @@ void Recordset::insertPending() {
 
 void Recordset::updatePending() {
   const Row& row = currentRow();
-  if (!rowsHaveRowid_) throw RunTimeError{kInvalidArgument, "The rows of this recordset can't be changed"};
+  if (!rowsCanChange()) throw RunTimeError{kInvalidArgument, "The rows of this recordset can't be changed"};
   std::string settings;
   for (const Pending& one : pending_)
     settings.append(settings.empty() ? "" : ", ").append(one.field).append(" = ?");
@@ -220,7 +217,7 @@ void Recordset::updatePending() {
 
 void Recordset::Delete() {
   const Row& row = currentRow();
-  if (!rowsHaveRowid_) throw RunTimeError{kInvalidArgument, "The rows of this recordset can't be changed"};
+  if (!rowsCanChange()) throw RunTimeError{kInvalidArgument, "The rows of this recordset can't be changed"};
   runChange("DELETE FROM " + table_ + " WHERE rowid = ?", {}, row.rowid);
   rows_[position_].deleted = true;
 }
@@ -228,6 +225,7 @@ void Recordset::Delete() {
 void Recordset::Close() {
   closed_ = true;
   rows_.clear();
+  values_.clear();
 }
 
 void Recordset::requireOpen() const {

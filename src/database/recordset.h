@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,8 @@ enum class OpenAs { sqlText = 1, table = 2 };
 class Recordset {
  public:
   Recordset(std::string_view source, Connection& connection, OpenAs openAs = OpenAs::sqlText);
+  // The rows of a SELECT in whose text a "?" stands for the key. The connection keeps it for the next key.
+  Recordset(std::string_view select, std::int32_t key, Connection& connection);
 
   // Exact, and not changed by Delete.
   std::int64_t RecordCount() const;
@@ -52,7 +55,6 @@ class Recordset {
  private:
   struct Row {
     std::int64_t rowid = 0;
-    std::vector<std::optional<std::string>> values;
     bool deleted = false;
   };
   struct Pending {
@@ -63,8 +65,9 @@ class Recordset {
     double real = 0;
   };
 
-  void openSelect(std::string_view sql);
+  void readRows();
   void requireOpen() const;
+  bool rowsCanChange() const { return select_ != nullptr && !select_->table.empty(); }
   const Row& currentRow() const;
   void setPending(Pending pending);
   void insertPending();
@@ -74,11 +77,11 @@ class Recordset {
 
   Connection* connection_;
   std::string table_;  // whose rows can be changed, or that takes new ones
-  bool rowsHaveRowid_ = false;
   bool closed_ = false;
   bool adding_ = false;
-  std::vector<std::string> fields_;
+  std::shared_ptr<const PreparedSelect> select_;
   std::vector<Row> rows_;
+  std::vector<std::optional<std::string>> values_;  // of all rows, one behind the other
   std::size_t position_ = 0;
   std::vector<Pending> pending_;
 };
