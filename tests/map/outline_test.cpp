@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "map/outlines_around.h"
 #include "real_map.h"
 
 namespace zamo {
@@ -48,6 +49,24 @@ TEST(CountryOutline, runs_on_across_the_antimeridian) {
 TEST(CountryOutline, is_empty_where_the_country_is_not) {
   EXPECT_TRUE(realMap().countryOutline("SUI", {20, 0, 30, 10}).empty());
   EXPECT_TRUE(realMap().countryOutline("XXX", {-180, -90, 180, 90}).empty());
+}
+
+TEST(CountryOutline, around_a_border_both_countries_have_theirs) {
+  const GzmpBox box{7, 47, 9, 48};
+  const auto lines = outlinesAround(realMap(), box);
+  const auto pointsOf = [&box](const char* code) {
+    std::size_t points = 0;
+    for (const GzmpLine& line : realMap().countryOutline(code, box)) points += line.size();
+    return points;
+  };
+  std::size_t points = 0;
+  for (const GzmpLine& line : lines) points += line.size();
+  EXPECT_EQ(points, pointsOf("SUI") + pointsOf("D") + pointsOf("F"));
+}
+
+TEST(CountryOutline, around_a_place_at_sea_the_coasts_have_theirs) {
+  EXPECT_FALSE(outlinesAround(realMap(), {0.5, 50.5, 2.0, 51.5}).empty());
+  EXPECT_TRUE(outlinesAround(realMap(), {-31, -31, -30, -30}).empty());
 }
 
 }  // namespace
