@@ -1,0 +1,148 @@
+#include <algorithm>
+#include <string>
+
+#include "platform/message.h"
+#include "platform/numbers.h"
+#include "screens/field_checks.h"
+#include "screens/form_events.h"
+#include "screens/visibility.h"
+
+namespace zamo {
+namespace {
+
+// clang-format off
+const Message kNoContourId("box: a contour is added to an allotment's list without a number", "First type in a Contour ID");
+const Message kEnoughContours("box: the list of an allotment's contours is complete", "The number of sub-areas have been added");
+// clang-format on
+
+constexpr std::string_view kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
+constexpr std::string_view kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas", "FrameSubArea"};
+
+template <std::size_t Count>
+void show(Screen& screen, const std::string_view (&controls)[Count], bool visible) {
+  for (const std::string_view control : controls) screen.setVisible(control, visible);
+}
+
+void noteNotBlank(NoticeForm& form) {
+  if (form.screen.byUser) form.work.state.screenIsBlank = false;
+}
+
+// An area is either made of sub-areas or a whole country. What is stored is seen, even if it is both.
+void showAreas(Screen& screen) {
+  const bool isCountry = !screen.isEmpty("Combo_LMZ04_geo_area");
+  const bool isSubAreas = !screen.isEmpty("Txt_LMZ04_nb_sub_areas");
+  show(screen, kWholeCountry, !isSubAreas || (screen.filling && isCountry));
+  show(screen, kSubAreas, !isCountry || (screen.filling && isSubAreas));
+  screen.setVisible("Lbl_LMZ04_or", !isCountry && !isSubAreas);
+}
+
+void changeSubAreaCount(NoticeForm& form, std::string_view control) {
+  Screen& screen = form.screen;
+  if (!isAcceptable(screen, control, form.work.host)) return;
+  const bool isEmpty = screen.isEmpty(control);
+  showAreas(screen);
+  lockSubAreas(screen, isEmpty);
+  if (!isEmpty) noteNotBlank(form);
+}
+
+void leaveSubAreaCount(NoticeForm& form, std::string_view control) {
+  changeSubAreaCount(form, control);
+  if (form.screen.isEmpty(control)) return;
+  form.screen.setText("Txt_LMZ04_contour_id", "");
+  form.screen.setFocus("Txt_LMZ04_contour_id");
+}
+
+void chooseGeoArea(NoticeForm& form, std::string_view control) {
+  showAreas(form.screen);
+  if (!form.screen.isEmpty(control)) noteNotBlank(form);
+}
+
+void changeContourId(NoticeForm& form, std::string_view control) {
+  const Screen& screen = form.screen;
+  if (screen.isEmpty(control) || !isAcceptable(screen, control, form.work.host)) return;
+  form.screen.setEnabled("Button_Add_Contour", true);
+  noteNotBlank(form);
+}
+
+bool listsContour(const Screen& screen, double contour) {
+  const auto& items = screen.items("ListBoxContourID");
+  return std::any_of(items.begin(), items.end(),
+                     [contour](const std::string& item) { return leadingNumber(item) == contour; });
+}
+
+void addContour(NoticeForm& form, std::string_view /*button*/) {
+  Screen& screen = form.screen;
+  const Host& host = form.work.host;
+  if (screen.isEmpty("Txt_LMZ04_contour_id")) return host.showBox({kNoContourId.filled({}), ""});
+  const auto count = static_cast<double>(screen.items("ListBoxContourID").size());
+  if (count >= leadingNumber(screen.text("Txt_LMZ04_nb_sub_areas"))) {
+    host.showBox({kEnoughContours.filled({}), ""});
+    screen.setText("Txt_LMZ04_contour_id", "");
+    screen.setEnabled("Button_Add_Contour", false);
+    return noteNotBlank(form);
+  }
+  const double contour = leadingNumber(screen.text("Txt_LMZ04_contour_id"));
+  if (listsContour(screen, contour)) return noteNotBlank(form);
+  screen.addItem("ListBoxContourID", numberText(contour));
+  screen.setText("Txt_LMZ04_contour_id", "");
+}
+
+void pickContour(NoticeForm& form, std::string_view control) {
+  if (form.screen.at(control).index < 0) return;
+  form.selectedContourIdx = form.screen.at(control).index;
+  form.screen.setEnabled("Button_Clear_Contour", true);
+}
+
+void clearContour(NoticeForm& form, std::string_view button) {
+  form.screen.removeItem("ListBoxContourID", form.selectedContourIdx);
+  form.screen.setEnabled(button, false);
+}
+
+void chooseIntent(NoticeForm& form, std::string_view /*control*/) {
+  applyIntentRule(form.screen);
+}
+
+void choosePlanEntry(NoticeForm& form, std::string_view /*control*/) {
+  applyPlanEntryRule(form.screen);
+}
+
+void chooseSomething(NoticeForm& form, std::string_view control) {
+  if (!form.screen.isEmpty(control)) noteNotBlank(form);
+}
+
+constexpr FormSet kBoth = kAllotmentForms;
+
+// clang-format off
+constexpr EventRow kEvents[] = {
+    {kBoth, Event::click,  "OptInt_Add",             chooseIntent},
+    {kBoth, Event::click,  "OptInt_Mod",             chooseIntent},
+    {kBoth, Event::click,  "Combo_KV19_Plan",        choosePlanEntry},
+    {kBoth, Event::click,  "Combo_9D_Polariz",       chooseSomething},
+    {kBoth, Event::click,  "Combo_LMZ04_RefPlan",    chooseSomething},
+    {kBoth, Event::change, "Txt_LMZ04_nb_sub_areas", changeSubAreaCount},
+    {kBoth, Event::click,  "Combo_LMZ04_geo_area",   chooseGeoArea},
+    {kBoth, Event::change, "Combo_LMZ04_geo_area",   chooseGeoArea},
+    {kBoth, Event::change, "Txt_LMZ04_contour_id",   changeContourId},
+    {kBoth, Event::click,  "Button_Add_Contour",     addContour},
+    {kBoth, Event::click,  "ListBoxContourID",       pickContour},
+    {kBoth, Event::click,  "Button_Clear_Contour",   clearContour},
+};
+
+constexpr LeaveRow kLeaves[] = {
+    {kBoth, "Txt_LMZ04_nb_sub_areas", leaveSubAreaCount},
+    {kBoth, "Combo_LMZ04_geo_area",   chooseGeoArea},
+    {kBoth, "Txt_LMZ04_contour_id",   changeContourId},
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const EventRow> allotmentEvents() {
+  return kEvents;
+}
+
+std::span<const LeaveRow> allotmentLeaves() {
+  return kLeaves;
+}
+
+}  // namespace zamo

@@ -1,0 +1,18 @@
+// The checks of single fields, on leaving them.
+#pragma once
+
+#include <string_view>
+
+#include "platform/host.h"
+#include "screens/notice_form.h"
+
+namespace zamo {
+
+// Checks the field that is about to be left and does what a field does then. False: the value is refused,
+// the user has been told, and the focus stays.
+bool mayLeaveField(NoticeForm& form, std::string_view control);
+
+// Whether the field's value would be accepted, without a word. A field without a check is always fine.
+bool isAcceptable(const Screen& screen, std::string_view control, const Host& host);
+
+}  // namespace zamo

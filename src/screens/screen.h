@@ -1,0 +1,141 @@
+// A notice form as its rules see it: named controls with their states, and no window. Whatever shows the form
+// follows the changes; the rules are the same with and without a display.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zamo {
+
+// What a notice type is turned into: it chooses the form and the tables of the form.
+enum FormCode : std::int16_t {
+  kNoForm = 0,
+  kGS1Assign = 3,
+  kGT1Assign = 4,
+  kGS2Allot = 5,
+  kGT2Allot = 6,
+  kGA1SubAllot = 7,
+  kTB5 = 8,
+  kTB3 = 9,
+  kTB2 = 10,
+};
+
+// A set of forms, for the rows of tables.
+using FormSet = unsigned;
+constexpr FormSet formBit(FormCode code) {
+  return 1U << static_cast<unsigned>(code);
+}
+inline constexpr FormSet kAssignmentForms = formBit(kGS1Assign) | formBit(kGT1Assign);
+inline constexpr FormSet kAllotmentForms = formBit(kGS2Allot) | formBit(kGT2Allot);
+inline constexpr FormSet kContourForm = formBit(kGA1SubAllot);
+inline constexpr FormSet kTbForms = formBit(kTB5) | formBit(kTB3) | formBit(kTB2);
+inline constexpr FormSet kAllForms = kAssignmentForms | kAllotmentForms | kContourForm | kTbForms;
+
+constexpr bool isOneOf(FormCode code, FormSet forms) {
+  return (formBit(code) & forms) != 0;
+}
+
+enum class ControlKind : std::uint8_t { text, memo, combo, list, option, button, label, frame };
+
+// What happens to a control. The program's changes raise `change` and `click` as the user's do.
+enum class Event : std::uint8_t { change, click, doubleClick };
+
+struct Control {
+  std::string name;
+  ControlKind kind = ControlKind::text;
+  std::string caption;  // of a label, an option, a button and a frame
+  std::string tip;
+  std::string text;                // of a text box and a combo
+  std::vector<std::string> items;  // of a combo and a list
+  int index = -1;                  // the item that is chosen; -1: none
+  bool isSet = false;              // of an option
+  bool visible = true;             // its own state: a frame that is hidden hides what it holds all the same
+  bool enabled = true;
+  bool grey = false;        // painted in the colour of a locked field
+  std::string optionGroup;  // options of one group exclude each other
+};
+
+class Screen {
+ public:
+  explicit Screen(FormCode formCode) : code_(formCode) {}
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+  ~Screen() = default;
+
+  FormCode code() const { return code_; }
+
+  // Controls are made once, before the form is used.
+  void add(Control control);
+
+  // A name that the form doesn't have throws std::out_of_range.
+  const Control& at(std::string_view name) const;
+  bool has(std::string_view name) const { return controls_.find(name) != controls_.end(); }
+  const std::string& text(std::string_view name) const { return at(name).text; }
+  bool isEmpty(std::string_view name) const { return at(name).text.empty(); }
+  bool isSet(std::string_view name) const { return at(name).isSet; }
+  bool isVisible(std::string_view name) const { return at(name).visible; }
+  const std::vector<std::string>& items(std::string_view name) const { return at(name).items; }
+
+  void forEach(const std::function<void(const Control&)>& visit) const;
+
+  // The caption of the form itself.
+  const std::string& title() const { return title_; }
+  void setTitle(std::string_view title);
+
+  // Each of these tells `changed`, and raises the control's event where one is named, if there is a change.
+
+  // The text of a text box, or of a combo that can be typed into. Raises `change`.
+  void setText(std::string_view name, std::string_view text);
+  void setCaption(std::string_view name, std::string_view caption);
+  void setTip(std::string_view name, std::string_view tip);
+  void setVisible(std::string_view name, bool visible);
+  void setVisible(std::initializer_list<std::string_view> names, bool visible);
+  void setEnabled(std::string_view name, bool enabled);
+  void setGrey(std::string_view name, bool grey);
+  // Sets the option and unsets the others of its group. Raises `click` for the one that is set.
+  void setOption(std::string_view name);
+  void unsetOption(std::string_view name);
+  // Chooses an item of a combo or a list; -1 chooses none. A combo takes the item as its text. Raises
+  // `click`.
+  void choose(std::string_view name, int index);
+  // Chooses the first item that equals the text exactly; gives whether there is one. Otherwise nothing
+  // changes.
+  bool chooseText(std::string_view name, std::string_view text);
+  // The lists of combos and lists. What was chosen is forgotten, without an event.
+  void setItems(std::string_view name, std::vector<std::string> items);
+  void addItem(std::string_view name, std::string_view item);
+  void insertItem(std::string_view name, int index, std::string_view item);
+  void removeItem(std::string_view name, int index);
+  void clearItems(std::string_view name) { setItems(name, {}); }
+
+  // Raises an event of a control as the user's hand does: choosing an item again is a click too.
+  void raise(Event event, std::string_view name);
+  void setFocus(std::string_view name);
+  void redrawAll() const;
+
+  // While a stored notice is brought to the screen: rules that clear a box leave what is stored to be seen.
+  bool filling = false;
+  // While the user's hand is on the form, and not the program's.
+  bool byUser = false;
+
+  // The window's: a control looks otherwise than before; the title; the focus goes somewhere.
+  std::function<void(const Control&)> changed = [](const Control&) {};
+  std::function<void(const std::string&)> titleChanged = [](const std::string&) {};
+  std::function<void(const std::string&)> focusWanted = [](const std::string&) {};
+  // The rules': something happened to a control.
+  std::function<void(Event, std::string_view)> raised = [](Event, std::string_view) {};
+
+ private:
+  Control& find(std::string_view name);
+
+  FormCode code_;
+  std::string title_;
+  std::map<std::string, Control, std::less<>> controls_;
+};
+
+}  // namespace zamo
