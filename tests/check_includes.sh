@@ -12,14 +12,17 @@ forbid() {
   fi
 }
 
-own='platform|model|noticefile|map|validation|database|query|screens|shell'
+own='platform|model|noticefile|map|validation|database|widgets|query|screens|shell'
 qt='Q[A-Z]|Qt'
-forbid platform "(model|noticefile|map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
-forbid model "(noticefile|map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
-forbid noticefile "(map|validation|database|query|screens|shell)/|$qt|sqlite3|s2/"
-forbid map "(model|noticefile|validation|database|query|screens|shell)/|$qt|sqlite3"
-forbid validation "(database|query|screens|shell)/|$qt|sqlite3|s2/"
-forbid database "(map|validation|query|screens|shell)/|$qt|s2/"
+forbid platform "(model|noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid model "(noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid noticefile "(map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid map "(model|noticefile|validation|database|query|screens|shell|widgets)/|$qt|sqlite3"
+forbid validation "(database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid database "(map|validation|query|screens|shell|widgets)/|$qt|s2/"
+forbid widgets "(model|noticefile|map|validation|database|query|screens|shell)/|sqlite3|s2/"
+forbid query "(map|validation|screens|shell)/|sqlite3|s2/"
+forbid screens "sqlite3|s2/"
 forbid shell "sqlite3|s2/"
 [ -z "$(find "$src" -mindepth 1 -maxdepth 1 -type d | grep -vE "/($own)$")" ] || {
   echo "a folder under src/ that has no place in the house"

@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "database/lookups.h"
+#include "database/export.h"
 #include "database/read_notice.h"
 #include "noticefile/notice_writer.h"
 #include "platform/code_page.h"
 #include "platform/plain_host.h"
+#include "shell/export_command.h"
 #include "shell/pipeline.h"
 #include "shell/start_up.h"
 
@@ -34,10 +35,11 @@ std::string_view stageName(Stage stage) {
   return "ok";
 }
 
-// Gives whether standard output took it.
-bool printVerdict(const std::string& file, const Verdict& verdict) {
-  std::string line = file + "\t" + std::string(stageName(verdict.failedAt));
-  if (!verdict.report.empty()) line += "\t" + verdict.report;
+// What became of an input file and, unless it is empty, the file that was made of it. Gives whether standard
+// output took it.
+bool printOutcome(const std::string& file, std::string_view outcome, const std::string& made) {
+  std::string line = file + "\t" + std::string(outcome);
+  if (!made.empty()) line += "\t" + made;
   std::fflush(stderr);
   return std::puts(line.c_str()) >= 0 && std::fflush(stdout) == 0;
 }
@@ -57,7 +59,7 @@ int judgeFiles(const std::vector<std::string>& files, int level, bool answer, Ju
     shell.run.ValLevel = static_cast<std::int16_t>(level);
     shell.run.NtcFileName = file;
     const Verdict verdict = judge(shell);
-    if (!printVerdict(file, verdict)) status = kFailed;
+    if (!printOutcome(file, stageName(verdict.failedAt), verdict.report)) status = kFailed;
     if (!verdict.passed()) status = std::max<int>(status, verdict.machineFailed ? kFailed : kFindings);
   }
   return status;
@@ -70,15 +72,40 @@ int show(const std::string& databasePath, std::int32_t key, bool isContour) {
   NtcRec ntc;
   const auto read = isContour ? readContourNtcFromDB : readNtcFromDB;
   if (!read(host, key, ntc, *connection)) return kFailed;
-  const auto target = [&](std::int32_t targetKey) {
-    TargetElements elements;
-    getTargetElements(host, targetKey, elements.freq_assgn, elements.longitude, elements.latitude,
-                      *connection);
-    return elements;
-  };
-  const std::string text = isContour ? makeContourNotice(ntc, 1) : makeNoticeSection(ntc, 1, target);
+  const std::string text =
+      isContour ? makeContourNotice(ntc, 1) : makeNoticeSection(ntc, 1, targetsOf(host, *connection));
   const bool printed = std::puts(utf8FromText(text).c_str()) >= 0 && std::fflush(stdout) == 0;
   return printed ? kNothingFound : kFailed;
+}
+
+bool openWorkingDatabase(const Host& host, const std::string& path, DbConnection& connection) {
+  return OpenDB(host, path, connection) && !isCentralDatabase(host, *connection) &&
+         dbHasAddrCodeTable(host, *connection);
+}
+
+ExitStatus statusOf(ExportEnd end) {
+  if (end == ExportEnd::written) return kNothingFound;
+  return end == ExportEnd::failed ? kFailed : kFindings;
+}
+
+int exportNotices(const std::string& databasePath, const std::string& condition, bool answer) {
+  Shell shell;
+  shell.host = makePlainHost(answer);
+  int boxes = 0;
+  shell.host.showBox = [&boxes, showBox = shell.host.showBox](const Box& box) {
+    ++boxes;
+    showBox(box);
+  };
+  shell.run.DbFileName = databasePath;
+  ExportEnd end = ExportEnd::failed;
+  if (openWorkingDatabase(shell.host, databasePath, shell.run.DbConn)) {
+    end = condition.empty() ? exportAll(shell) : exportUpdated(shell, textFromUtf8(condition));
+  }
+  const bool isWritten = end == ExportEnd::written;
+  const std::string made = isWritten ? shell.run.CorrFileName : std::string();
+  if (!printOutcome(databasePath, isWritten ? "ok" : "export", made)) return kFailed;
+  // Any box but the one that tells of the finished file is about a notice that couldn't be read as a whole.
+  return isWritten && boxes > 1 ? kFindings : statusOf(end);
 }
 
 void addLevel(CLI::App& command, int& level) {
@@ -110,6 +137,16 @@ int runBatch(int argc, const char* const* argv) {
   loading->add_option("FILE", files, "Notice files")->required();
 
   std::string database;
+  std::string condition;
+  CLI::App* const exporting =
+      app.add_subcommand("export", "The notices of a working database, as a notice file beside it");
+  exporting->add_flag("--yes,!--no", answer, "Answer every question with Yes, as is usual, or with No");
+  exporting
+      ->add_option("--updated", condition,
+                   "Only those that meet the condition, such as \"d_updated > #01/31/2009#\"")
+      ->check([](const std::string& given) { return given.empty() ? "a condition is missing" : ""; });
+  exporting->add_option("DB", database, "Working database")->required();
+
   std::int32_t key = 0;
   bool isContour = false;
   CLI::App* const showing =
@@ -123,6 +160,7 @@ int runBatch(int argc, const char* const* argv) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kNothingFound : kFailed;
   }
+  if (exporting->parsed()) return exportNotices(database, condition, answer);
   if (showing->parsed()) return show(database, key, isContour);
   return judgeFiles(files, level, answer, loading->parsed() ? judgeAndLoadFile : judgeFile);
 }

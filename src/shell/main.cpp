@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "shell/main_window.h"
+#include "shell/qt_forms.h"
 #include "shell/qt_host.h"
 #include "shell/start_up.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
   zamo::Shell shell;
   zamo::MainWindow window(shell);
   shell.host = zamo::makeQtHost(window);
+  zamo::useQtForms(shell, window);
   zamo::startUp(shell, zamo::mapBesideExecutable(shell));
   window.show();
   return QApplication::exec();

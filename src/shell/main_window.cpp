@@ -6,7 +6,6 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -14,13 +13,13 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
-#include <QTableView>
 #include <QVBoxLayout>
 #include <exception>
 #include <new>
 
 #include "platform/run_time_error.h"
-#include "shell/qt_text.h"
+#include "shell/notice_grid.h"
+#include "widgets/qt_text.h"
 
 namespace zamo {
 namespace {
@@ -54,20 +53,6 @@ QLineEdit* makeReadOnlyLine(std::string_view name, const QString& spokenName) {
   return line;
 }
 
-QTableView* makeGrid() {
-  auto* grid = new QTableView;
-  grid->setObjectName("NtcDataGrid");
-  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-  grid->setSelectionMode(QAbstractItemView::SingleSelection);
-  grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  grid->setAlternatingRowColors(true);
-  grid->setWordWrap(false);
-  grid->setTabKeyNavigation(false);
-  grid->verticalHeader()->hide();
-  grid->horizontalHeader()->setHighlightSections(false);
-  return grid;
-}
-
 // Stands where the grid is hidden.
 QLabel* makeEmptyGrid() {
   auto* panel = new QLabel;
@@ -98,10 +83,15 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell) {
   setMinimumSize(kSmallestSize);
   resize(kUsualSize.boundedTo(screen()->availableSize()));
   shell_.draw = [this](const MainScreen& wanted) { draw(wanted); };
+  shell_.forms.bindGrid = [this] { NtcDataGrid_->bind(); };
+  shell_.forms.detachGrid = [this] {
+    if (!shell_.screen.gridVisible) NtcDataGrid_->clear();
+  };
 }
 
 MainWindow::~MainWindow() {
   shell_.draw = [](const MainScreen&) {};
+  shell_.forms = {};
 }
 
 void MainWindow::makeMenus() {
@@ -162,7 +152,10 @@ void MainWindow::makeControls() {
   strip->addWidget(TxtProcessingStatus_, 1, 0, 1, 4);
   strip->setColumnStretch(1, 1);
 
-  NtcDataGrid_ = makeGrid();
+  NtcDataGrid_ = new NoticeGrid(shell_);
+  NtcDataGrid_->onOpen = [this] {
+    runCommand("NtcDataGrid", [this](Shell&, QWidget&) { NtcDataGrid_->openCurrent(); });
+  };
   emptyGrid_ = makeEmptyGrid();
 
   auto* const central = new QWidget;
@@ -199,7 +192,9 @@ void MainWindow::draw(const MainScreen& screen) {
   ButtonReVal_->setVisible(screen.reValVisible);
   strip_->setVisible(screen.inputVisible || screen.statusVisible || screen.viewFileVisible ||
                      screen.reValVisible);
+  const bool gridAppears = screen.gridVisible && !NtcDataGrid_->isVisibleTo(this);
   NtcDataGrid_->setVisible(screen.gridVisible);
+  if (gridAppears) NtcDataGrid_->setFocus();
   emptyGrid_->setVisible(!screen.gridVisible);
   emptyGrid_->setText(screen.openTxtEnabled && !screen.inputVisible ? fromText(kHint) : QString());
 }
@@ -230,7 +225,7 @@ void MainWindow::refresh() {
   QCoreApplication::sendEvent(this, &paintNow);
 }
 
-void MainWindow::runCommand(std::string_view name, Command command) {
+void MainWindow::runCommand(std::string_view name, const std::function<void(Shell&, QWidget&)>& command) {
   if (running_) return;
   running_ = true;
   try {
@@ -246,6 +241,12 @@ void MainWindow::runCommand(std::string_view name, Command command) {
   draw(shell_.screen);
   showStatus();
   if (closeWanted_) close();
+}
+
+bool MainWindow::event(QEvent* event) {
+  // A form is opening over the window: nothing refreshes it until the form is closed.
+  if (event->type() == QEvent::WindowBlocked) showStatus();
+  return QMainWindow::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -3,25 +3,27 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "shell/menu_table.h"
-#include "shell/run_state.h"
+#include "shell/shell.h"
 
 class QAction;
 class QFrame;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QTableView;
 
 namespace zamo {
 
+class NoticeGrid;
+
 class MainWindow final : public QMainWindow {
  public:
-  // Becomes the `draw` of `shell`, which must outlive the window.
+  // Becomes the `draw` of `shell` and shows its grid; `shell` must outlive the window.
   explicit MainWindow(Shell& shell);
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
@@ -35,9 +37,10 @@ class MainWindow final : public QMainWindow {
 
   // Runs one command at a time: within a running one nothing happens. What the command throws ends up in a
   // box that is titled `name`.
-  void runCommand(std::string_view name, Command command);
+  void runCommand(std::string_view name, const std::function<void(Shell&, QWidget&)>& command);
 
  protected:
+  bool event(QEvent* event) override;
   // Closes the database too. A window that is closed within a command stays until the command has ended.
   void closeEvent(QCloseEvent* event) override;
 
@@ -62,7 +65,7 @@ class MainWindow final : public QMainWindow {
   QPushButton* ButtonViewFile_ = nullptr;
   QPushButton* ButtonReVal_ = nullptr;
   QLabel* emptyGrid_ = nullptr;
-  QTableView* NtcDataGrid_ = nullptr;
+  NoticeGrid* NtcDataGrid_ = nullptr;
 };
 
 }  // namespace zamo

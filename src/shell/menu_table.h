@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "shell/export_command.h"
+#include "shell/notice_query.h"
 #include "shell/pipeline.h"
 #include "shell/preferences.h"
 
@@ -35,8 +37,10 @@ void openTxt(Shell& shell, QWidget& /*window*/) {
   runTextCommand(shell, level);
 }
 
-inline void setDirectory(Shell& shell, QWidget& /*window*/) {
-  mnuPrefDir(shell);
+// A command that doesn't ask for the window.
+template <auto command>
+void run(Shell& shell, QWidget& /*window*/) {
+  command(shell);
 }
 
 // All texts are English: the languages are there and choose nothing.
@@ -52,15 +56,15 @@ inline constexpr std::array<MenuRow, 18> kMenus = {{
     {"mnuFileOpenTxtBasicV",      "Include Basic Val",                'B', "mnuFileOpenTxt", "",       menu::openTxt<kBasic>},
     {"mnuFileOpenTxtComplVNoGeo", "Include Complete Val without Geo", 'o', "mnuFileOpenTxt", "",       menu::openTxt<kCompleteWithoutGeo>},
     {"mnuFileOpenTxtComplVGeo",   "Include Complete Val with Geo",    'G', "mnuFileOpenTxt", "",       menu::openTxt<kCompleteWithGeo>},
-    {"mnuFileOpenDB",             "OpenDB",                           'D', "mnuFile",        "",       nullptr},
+    {"mnuFileOpenDB",             "OpenDB",                           'D', "mnuFile",        "",       menu::run<mnuFileOpenDB>},
     {"mnuFileExit",               "Exit",                             'x', "mnuFile",        "Ctrl+X", mnuFileExit},
     {"mnuQuery",                  "Query",                            'Q', "",               "",       nullptr},
-    {"mnuQueryNew",               "New",                              'N', "mnuQuery",       "",       nullptr},
+    {"mnuQueryNew",               "New",                              'N', "mnuQuery",       "",       menu::run<mnuQueryNew>},
     {"mnuTxtDB",                  "CreateTxtFromDB",                  'C', "",               "",       nullptr},
-    {"mnuTxtDBUpdated",           "Select ONLY updated records",      'O', "mnuTxtDB",       "",       nullptr},
-    {"mnuTxtDBAll",               "Select ALL records",               'A', "mnuTxtDB",       "",       nullptr},
+    {"mnuTxtDBUpdated",           "Select ONLY updated records",      'O', "mnuTxtDB",       "",       menu::run<mnuTxtDBUpdated>},
+    {"mnuTxtDBAll",               "Select ALL records",               'A', "mnuTxtDB",       "",       menu::run<mnuTxtDBAll>},
     {"mnuPref",                   "Preferences",                      'P', "",               "",       nullptr},
-    {"mnuPrefDir",                "Set Working Directory",            'W', "mnuPref",        "",       menu::setDirectory},
+    {"mnuPrefDir",                "Set Working Directory",            'W', "mnuPref",        "",       menu::run<mnuPrefDir>},
     {"mnuPrefLang",               "Language",                         'L', "mnuPref",        "",       nullptr},
     {"mnuPrefLangE",              "English",                          'E', "mnuPrefLang",    "",       menu::chooseNothing},
     {"mnuPrefLangF",              "French",                           'F', "mnuPrefLang",    "",       menu::chooseNothing},

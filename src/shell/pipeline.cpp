@@ -11,6 +11,8 @@
 #include "platform/message.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
+#include "shell/command_parts.h"
+#include "shell/notice_query.h"
 #include "validation/basic_validation.h"
 #include "validation/complete_validation.h"
 
@@ -35,17 +37,11 @@ const Message kReportWithoutGeo("report: second line after a failed complete val
 const Message kNoTemplate("box: the master template can't be opened for reading; number of the error", "Error %1 : \n\rMasterHDLK_WQN.mdb file not found");
 const Message kCreating("status: the working database is made", "Creating database structure");
 const Message kLoading("status: the load begins", "Reading and writing to the database");
+const Message kWritten("status: the load is done and its query confirmed; number of selected notices", "Written sucessfully to the database - Number of notices : %1");
 const Message kReportFallback("box \"Information\": no text viewer for the outcome report", "The validation report cannot be shown, but is available on ");
 const Message kNoViewerForReport("box \"Information\": no text viewer for a report; the second part tells which", "Cannot find Notepad.exe. %1%2");
 const Message kNoViewerForInput("box \"Information\": no text viewer for the input file", "Cannot find Notepad.exe. Unable to show the input file");
 // clang-format on
-
-void showStatus(Shell& shell, const Message& status) {
-  shell.screen.statusVisible = true;
-  shell.draw(shell.screen);
-  shell.host.setStatus(status.words());
-  shell.host.repaint();
-}
 
 void disableQueryMenus(Shell& shell) {
   shell.screen.queryEnabled = false;
@@ -96,7 +92,7 @@ void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, cons
   verdict.failedAt = failed.stage;
   verdict.machineFailed = result.machineFailed;
   showValidationButtons(shell, true);
-  showStatus(shell, failed.status);
+  showStatus(shell, failed.status.words());
   // The user has been told already why there is nothing to report.
   if (result.machineFailed && findings.empty()) return;
   const std::string report = outcomeReportPath(shell.run.NtcFileName);
@@ -104,17 +100,6 @@ void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, cons
   verdict.report = report;
   showReportInNotepad(shell.host, report, kReportFallback.words());
 }
-
-class Hourglass {
- public:
-  explicit Hourglass(const Host& host) : host_(host) { host_.setHourglass(true); }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-  ~Hourglass() { host_.setHourglass(false); }
-
- private:
-  const Host& host_;
-};
 
 AgencyLookups lookupsOf(MasterAgencies& agencies) {
   return {
@@ -125,14 +110,14 @@ AgencyLookups lookupsOf(MasterAgencies& agencies) {
 }
 
 void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& level) {
-  showStatus(shell, level.status);
+  showStatus(shell, level.status.words());
   std::string errText;
   StageResult complete;
   {
     const Hourglass hourglass(shell.host);
     NtcRec work;
     MasterAgencies agencies;
-    complete = runCompleteValidation(shell.host, work, errText, level.withGeo ? &shell.map : nullptr,
+    complete = runCompleteValidation(shell.host, work, errText, level.withGeo ? &shell.map.gzmp : nullptr,
                                      shell.run.NtcFileName, lookupsOf(agencies));
   }
   if (complete.passed) {
@@ -179,8 +164,9 @@ void runTextCommand(Shell& shell, std::int16_t level) {
 }
 
 void ButtonReVal(Shell& shell) {
-  closeDB(shell.run.DbConn);
   shell.screen.gridVisible = false;
+  detachNoticeGrid(shell);
+  closeDB(shell.run.DbConn);
   judgeAndLoadFile(shell);
 }
 
@@ -191,6 +177,7 @@ void ButtonViewFile(const Shell& shell) {
 
 bool chooseNoticeFile(Shell& shell) {
   shell.screen.gridVisible = false;
+  detachNoticeGrid(shell);
   closeDB(shell.run.DbConn);
   disableQueryMenus(shell);
   shell.screen.statusVisible = false;
@@ -217,7 +204,7 @@ bool chooseNoticeFile(Shell& shell) {
 
 void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   shell.screen.gridVisible = false;
-  showStatus(shell, kChecking);
+  showStatus(shell, kChecking.words());
   std::string errText;
   StageResult structure;
   {
@@ -230,7 +217,7 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   }
 
   errText.clear();
-  showStatus(shell, kBasicRuns);
+  showStatus(shell, kBasicRuns.words());
   std::int64_t noticesRead = 0;
   StageResult basic;
   {
@@ -263,6 +250,7 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
     verdict.failedAt = Stage::load;
     verdict.machineFailed = true;
   };
+  detachNoticeGrid(shell);
   if (!isTemplateReadable(shell.host)) return fail();
   shell.screen.fileName = trimText(textFromUtf8(run.NtcFileName));
   shell.draw(shell.screen);
@@ -272,11 +260,11 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
                        "The notice file stands where its database would: " + textFromUtf8(run.DbFileName)};
   }
   const bool copied = copyMasterDB(shell.host, run.DbFileName);
-  showStatus(shell, kCreating);
+  showStatus(shell, kCreating.words());
   resetAdm(run.CurrNtc);
   LineSource lines(run.NtcFileName);
   resetNtc(run.CurrNtc);
-  showStatus(shell, kLoading);
+  showStatus(shell, kLoading.words());
   {
     const Hourglass hourglass(shell.host);
     const auto showReport = [&shell](const std::string& path, std::string_view messageHead) {
@@ -290,6 +278,8 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
   }
   shell.screen.fileName.insert(0, "TEXT FILE : ");
   shell.draw(shell.screen);
+  runQuery(shell);
+  if (run.qryConfirmed) showStatus(shell, kWritten.filled({std::to_string(run.NtcCount)}));
 }
 
 Verdict judgeFile(Shell& shell) {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "shell/run_state.h"
+#include "shell/shell.h"
 
 namespace zamo {
 
@@ -39,7 +39,8 @@ void checkFormatAndBasic(Shell& shell, Verdict& verdict);
 void completeValidationNoGeo(Shell& shell, Verdict& verdict);
 void completeValidationGeo(Shell& shell, Verdict& verdict);
 
-// Makes the working database of NtcFileName from the master template and loads the notices into it.
+// Makes the working database of NtcFileName from the master template, loads the notices into it and shows the
+// query form.
 void createAndLoadDb(Shell& shell, Verdict& verdict);
 
 // The verdict on NtcFileName at the level of the run, with a box for what the stages throw.

@@ -1,7 +1,7 @@
 // The working directory, the one thing that outlives a run.
 #pragma once
 
-#include "shell/run_state.h"
+#include "shell/shell.h"
 
 namespace zamo {
 

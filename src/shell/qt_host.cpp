@@ -5,7 +5,9 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QProcess>
 #include <QScreen>
 #include <QSettings>
@@ -18,7 +20,7 @@
 #include "platform/plain_host.h"
 #include "platform/run_time_error.h"
 #include "shell/main_window.h"
-#include "shell/qt_text.h"
+#include "widgets/qt_text.h"
 #include "shell/start_up.h"
 
 namespace zamo {
@@ -74,15 +76,36 @@ QString withPlainLineEnds(QString text) {
   return text.replace("\r\n", "\n").replace("\n\r", "\n").replace('\r', '\n');
 }
 
+// What a box or a dialog stands over: the form that the user works on.
+QWidget* ownerOf(MainWindow& window) {
+  QWidget* const modal = QApplication::activeModalWidget();
+  return modal != nullptr ? modal : &window;
+}
+
+QMessageBox::StandardButtons buttonsOf(BoxButtons buttons) {
+  if (buttons == BoxButtons::cancelTryContinue)
+    return QMessageBox::Cancel | QMessageBox::Retry | QMessageBox::Ignore;
+  return QMessageBox::Ok;
+}
+
 int execBox(MainWindow& window, const Box& box, QMessageBox::StandardButtons buttons) {
   window.refresh();
   const NormalPointer pointer;
   const QString title = box.title.empty() ? QGuiApplication::applicationDisplayName() : fromText(box.title);
-  QMessageBox dialog(iconOf(box.icon), title, withPlainLineEnds(fromText(box.text)), buttons, &window);
+  QMessageBox dialog(iconOf(box.icon), title, withPlainLineEnds(fromText(box.text)), buttons,
+                     ownerOf(window));
   // Messages name tags like <HEAD>, which rich text would swallow.
   dialog.setTextFormat(Qt::PlainText);
   dialog.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  if (QAbstractButton* const goOn = dialog.button(QMessageBox::Ignore)) goOn->setText("Continue");
+  if (QAbstractButton* const again = dialog.button(QMessageBox::Retry)) again->setText("Try Again");
   return dialog.exec();
+}
+
+std::string askText(MainWindow& window, const Box& box) {
+  window.refresh();
+  const NormalPointer pointer;
+  return toText(QInputDialog::getText(ownerOf(window), fromText(box.title), fromText(box.text)));
 }
 
 std::optional<std::string> execFileDialog(MainWindow& window, QFileDialog& dialog) {
@@ -149,10 +172,12 @@ Yield makeRefresh(MainWindow& window) {
 Host makeQtHost(MainWindow& window) {
   const Yield refresh = makeRefresh(window);
   Host host;
-  host.showBox = [&window](const Box& box) { execBox(window, box, QMessageBox::Ok); };
+  host.showBox = [&window](const Box& box) { execBox(window, box, buttonsOf(box.buttons)); };
   host.askYesNo = [&window](const Box& box) {
     return execBox(window, box, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
   };
+  host.askText = [&window](const Box& box) { return askText(window, box); };
+  host.beep = QApplication::beep;
   host.setStatus = [&window](std::string_view text) { window.setStatus(text); };
   host.repaint = refresh;
   host.yield = refresh;

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/run_state.h"
+#include "shell/shell.h"
 
 namespace zamo {
 

@@ -1,6 +1,5 @@
 #include "shell/start_up.h"
 
-#include "map/world_map.h"
 #include "platform/files.h"
 #include "platform/message.h"
 
@@ -15,8 +14,8 @@ const Message kNoMapData("box at start: the map's data file can't be used", "Can
 
 MapOpening mapBesideExecutable(Shell& shell) {
   const std::string dataFile = executableFolder() + "/" + kMapDataFile;
-  shell.map = makeWorldMap(dataFile).gzmp;
-  return {dataFile, [&map = shell.map] {
+  shell.map = makeWorldMap(dataFile);
+  return {dataFile, [&map = shell.map.gzmp] {
             map.gzmpSetUnit(kGzmpUnit);
             map.gzmpInit();
             return map.gzmpOpenData();
@@ -52,6 +51,7 @@ void startUp(Shell& shell, const std::optional<MapOpening>& map) {
   screen.statusVisible = false;
   shell.draw(screen);
   if (map) screen.openTxtEnabled = openMap(shell.host, *map);
+  if (!screen.openTxtEnabled) shell.map = {};
   shell.run.DbConn.reset();
   shell.run.UserName = getLogonName(shell.host);
   shell.draw(screen);

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/run_state.h"
+#include "shell/shell.h"
 
 namespace zamo {
 

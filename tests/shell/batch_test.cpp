@@ -142,6 +142,174 @@ TEST_F(Batch, a_question_of_the_load_is_answered_as_the_call_says) {
   EXPECT_EQ(run("show twice.mdb 83700002").status, 0);
 }
 
+class BatchExport : public Batch {
+ protected:
+  // A database of two notices, or of those of another file.
+  void load(std::string_view content = kTwoNotices) const {
+    folder.write("good.txt", content);
+    ASSERT_EQ(run("load --level 1 good.txt").output, "good.txt\tok\n");
+  }
+
+  void change(const std::string& sql) const {
+    ASSERT_EQ(std::system(("sqlite3 '" + folder.file("good.mdb") + "' \"" + sql + "\"").c_str()), 0);
+  }
+
+  // The one exported file here, by its name alone; empty when there is none.
+  std::string exported() const {
+    std::string found;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+      const std::string name = entry.path().filename().string();
+      if (!name.ends_with(".corr.txt")) continue;
+      EXPECT_EQ(found, "");
+      found = name;
+    }
+    return found;
+  }
+
+  static constexpr std::string_view kTwoNotices =
+      "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\nt_trg_adm_ref_id = A1\n</NOTICE>\n"
+      "<NOTICE>\nt_notice_type = TB5\nt_trg_adm_ref_id = A2\n</NOTICE>\n"
+      "<TAIL>\nt_num_notices = 2\n</TAIL>\n";
+};
+
+// Behind the five lines.
+std::string withoutItsHeader(const std::string& text) {
+  std::size_t at = 0;
+  for (int line = 0; line < 5; ++line) at = text.find("\r\n", at) + 2;
+  return text.substr(at);
+}
+
+TEST_F(BatchExport, writes_the_notices_of_a_database_beside_it) {
+  load();
+  const Outcome outcome = run("export good.mdb");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, "good.mdb\tok\t" + exported() + "\n");
+  EXPECT_EQ(outcome.messages,
+            "Writing the selected record to an electronic file\n"
+            "Create text file: 2 Notices will be written to a text file. Do you want to proceed?\nYes\n"
+            "Information: Electronic file completed\nElectronic file completed\n");
+  const std::string text = readFile(folder.file(exported()));
+  EXPECT_TRUE(text.starts_with("File created on "));
+  EXPECT_NE(text.find("\r\nProgram Id:  KV19 Zamo HDLK Digital Version 2.08 / 08.04.2009\r\n \r\n\r\n"),
+            std::string::npos);
+  EXPECT_EQ(withoutItsHeader(text),
+            "<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
+            "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = TB5\r\nt_trg_adm_ref_id = A1\r\n</NOTICE>\r\n"
+            "<NOTICE>\r\nNotice No = 2\r\nt_notice_type = TB5\r\nt_trg_adm_ref_id = A2\r\n</NOTICE>\r\n"
+            "<TAIL>\r\nt_num_notices = 2\r\n</TAIL>\r\n\r\n");
+}
+
+TEST_F(BatchExport, of_updated_notices_takes_those_of_the_condition) {
+  load();
+  change("UPDATE fmtv_vorna SET d_updated = '2009-01-31' WHERE adm_ref_id = 'A1'");
+  EXPECT_EQ(run("export --updated 'd_updated > #01/31/2009#' good.mdb").status, 0);
+  const std::string text = readFile(folder.file(exported()));
+  EXPECT_EQ(text.find("A1"), std::string::npos);
+  EXPECT_NE(text.find("t_trg_adm_ref_id = A2\r\n"), std::string::npos);
+  EXPECT_TRUE(text.ends_with("t_num_notices = 1\r\n</TAIL>\r\n\r\n"));
+}
+
+TEST_F(BatchExport, that_is_not_completed_ends_with_1_and_names_no_file) {
+  load();
+  const Outcome declined = run("export --no good.mdb");
+  EXPECT_EQ(declined.status, 1);
+  EXPECT_EQ(declined.output, "good.mdb\texport\n");
+  EXPECT_TRUE(declined.messages.ends_with("No\nProcess canceled by the operator\n"));
+  const Outcome none = run("export --updated 'd_updated < #01/31/2009#' good.mdb");
+  EXPECT_EQ(none.status, 1);
+  EXPECT_EQ(none.output, "good.mdb\texport\n");
+  EXPECT_TRUE(
+      none.messages.ends_with("There are no updated notices. Output text file will not be created\n"));
+  change("UPDATE fmtv_vorna SET adm = 'SUI' WHERE adm_ref_id = 'A2'");
+  const Outcome mixed = run("export good.mdb");
+  EXPECT_EQ(mixed.status, 1);
+  EXPECT_EQ(mixed.output, "good.mdb\texport\n");
+  EXPECT_TRUE(
+      mixed.messages.ends_with("Error : Writing Electronic notice: Notifiying administration is not the "
+                               "same. Cannot create electronic "
+                               "file\nCannot save to text file. Please consult the administrator\n"));
+}
+
+TEST_F(BatchExport, of_a_notice_that_can_not_be_read_as_a_whole_ends_with_1_and_its_file) {
+  load();
+  change("UPDATE fmtv_vorna SET notice_typ = 'GT2' WHERE adm_ref_id = 'A2'");
+  const Outcome outcome = run("export good.mdb");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, "good.mdb\tok\t" + exported() + "\n");
+  EXPECT_NE(outcome.messages.find("Read Error: readFromAllotment: The assignment 83700002 is not UNIQUE. "
+                                  "Please consult the administrator!\n"),
+            std::string::npos);
+}
+
+TEST_F(BatchExport, of_what_is_no_working_database_ends_with_2) {
+  const Outcome missing = run("export missing.mdb");
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_EQ(missing.output, "missing.mdb\texport\n");
+  EXPECT_EQ(missing.messages, "OpenDB: Erreur 14:unable to open database file\n");
+  load();
+  change("CREATE TABLE lmz_aux_border_contour (id)");
+  const Outcome central = run("export good.mdb");
+  EXPECT_EQ(central.status, 2);
+  EXPECT_TRUE(central.messages.starts_with("Error in Reading Database: Error : You must first create"));
+  change("DROP TABLE lmz_aux_border_contour; DROP TABLE addr_code");
+  const Outcome old = run("export good.mdb");
+  EXPECT_EQ(old.status, 2);
+  EXPECT_EQ(
+      old.messages,
+      "Old Database Structure: Addr_code and Op_agcy tables have been added to the database. Please get "
+      "the latest database version. \n");
+  EXPECT_EQ(exported(), "");
+}
+
+TEST_F(BatchExport, with_a_condition_that_is_none_ends_with_2) {
+  load();
+  const Outcome outcome = run("export --updated nonsense good.mdb");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "good.mdb\texport\n");
+  EXPECT_NE(outcome.messages.find("countSelectedRecords: Erreur 1:no such column: nonsense\n"),
+            std::string::npos);
+  EXPECT_EQ(run("export --updated '' good.mdb").status, 2);
+  EXPECT_EQ(run("export").status, 2);
+}
+
+TEST_F(BatchExport, without_room_on_the_disk_ends_with_2_and_a_file_without_a_tail) {
+  load();
+  change(
+      "WITH RECURSIVE n(i) AS (SELECT 83700003 UNION ALL SELECT i + 1 FROM n WHERE i < 83702000) "
+      "INSERT INTO fmtv_vorna (vornakey, adm, notice_typ) SELECT i, 'F', 'TB5' FROM n");
+  const Outcome outcome = run("export good.mdb", "trap '' XFSZ; ulimit -f 20; ");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "good.mdb\texport\n");
+  EXPECT_NE(outcome.messages.find("writeNtcsToTxt: Erreur 61:Disk full: "), std::string::npos);
+  const std::string half = readFile(folder.file(exported()));
+  EXPECT_NE(half.find("<NOTICE>"), std::string::npos);
+  EXPECT_EQ(half.find("<TAIL>"), std::string::npos);
+}
+
+// Notices that were valid stay so on their way through the database, and a second way changes nothing.
+TEST_F(BatchExport, of_each_valid_example_is_valid_again) {
+  int examples = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(ZAMO_EXAMPLES)) {
+    const std::string name = entry.path().filename().string();
+    if (!name.starts_with("valid-")) continue;
+    SCOPED_TRACE(name);
+    ++examples;
+    load(readFile(entry.path().string()));
+    ASSERT_EQ(run("export good.mdb").status, 0);
+    const std::string first = readFile(folder.file(exported()));
+    std::filesystem::remove(folder.file(exported()));
+    folder.write("again.txt", first);
+    const Outcome checked = run("check --level 2 again.txt");
+    EXPECT_EQ(checked.status, 0);
+    EXPECT_EQ(checked.output, "again.txt\tok\n");
+    load(first);
+    ASSERT_EQ(run("export good.mdb").status, 0);
+    EXPECT_EQ(withoutItsHeader(readFile(folder.file(exported()))), withoutItsHeader(first));
+    std::filesystem::remove(folder.file(exported()));
+  }
+  EXPECT_EQ(examples, 8);
+}
+
 TEST_F(Batch, a_load_without_room_on_the_disk_ends_with_2_and_keeps_whole_notices) {
   std::string notices;
   for (int i = 0; i < 3000; ++i) {

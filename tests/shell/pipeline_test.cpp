@@ -7,6 +7,7 @@
 
 #include "database/recordset.h"
 #include "platform/files.h"
+#include "platform/run_time_error.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
 
@@ -156,13 +157,13 @@ TEST_F(Pipeline, complete_validation_reports_behind_two_lines_and_keeps_the_menu
 
 TEST_F(Pipeline, the_third_level_asks_the_map_and_leaves_a_blank_line_in_its_report) {
   // A map on which everything is sea, and far from any country.
-  shell.map.gzmpParseCoords = [](const std::string&) { return GzmpPoint{}; };
-  shell.map.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
-  shell.map.gzmpCountryAtPoint = [](const GzmpPoint&) { return std::string("   "); };
-  shell.map.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) {
+  shell.map.gzmp.gzmpParseCoords = [](const std::string&) { return GzmpPoint{}; };
+  shell.map.gzmp.gzmpLoadMapAround = [](const GzmpPoint&, float) {};
+  shell.map.gzmp.gzmpCountryAtPoint = [](const GzmpPoint&) { return std::string("   "); };
+  shell.map.gzmp.gzmpNearestCountries = [](const GzmpPoint&, float, int, const std::string&, int) {
     return GzmpNearest{};
   };
-  shell.map.gzmpFindCrossings = [](const std::vector<GzmpPoint>&) { return GzmpCrossings{}; };
+  shell.map.gzmp.gzmpFindCrossings = [](const std::vector<GzmpPoint>&) { return GzmpCrossings{}; };
   std::string points;
   for (const char* lat : {"+485000", "+485100", "+485200"}) {
     points += "<POINT>\r\nt_long = +0021000\r\nt_lat = " + std::string(lat) + "\r\n</POINT>\r\n";
@@ -229,6 +230,118 @@ TEST_F(Pipeline, a_loaded_file_is_named_as_one_and_its_database_stays_open) {
   ASSERT_EQ(rows.RecordCount(), 1);
   EXPECT_EQ(rows.value("adm_ref_id"), "A1");
   EXPECT_EQ(rows.value("adm"), "F");
+}
+
+// What a query form would do that is left by OK, with a selection of one notice.
+void confirmOneNotice(Shell& shell) {
+  shell.run.qrySql = "SELECT vornakey FROM fmtv_vorna WHERE adm_ref_id = 'A1'";
+  shell.run.qryIsNotice = true;
+  shell.run.qryConfirmed = true;
+}
+
+TEST_F(Pipeline, a_confirmed_query_behind_the_load_counts_what_it_selects_and_not_what_was_loaded) {
+  int shown = 0;
+  shell.forms.showQueryForm = [&] {
+    ++shown;
+    EXPECT_NE(shell.run.DbConn, nullptr);
+    EXPECT_EQ(shell.screen.fileName, "TEXT FILE : " + folder.file("two.txt"));
+    EXPECT_TRUE(shell.screen.queryEnabled);
+    EXPECT_TRUE(shell.screen.txtDbEnabled);
+    EXPECT_FALSE(shell.screen.gridVisible);
+    confirmOneNotice(shell);
+  };
+  std::string two(kGoodNotice);
+  two.replace(two.find("<TAIL>"), std::string::npos,
+              "<NOTICE>\r\nt_notice_type = TB5\r\nt_fragment = KV19D\r\nt_action = SUPPRESS\r\n"
+              "t_trg_adm_ref_id = A2\r\n</NOTICE>\r\n<TAIL>\r\nt_num_notices = 2\r\n</TAIL>\r\n");
+  choose("two.txt", two);
+  runTextCommand(shell, kBasic);
+  EXPECT_EQ(shown, 1);
+  ASSERT_GE(script.statuses.size(), 4U);
+  EXPECT_THAT(
+      std::vector<std::string>(script.statuses.end() - 4, script.statuses.end()),
+      ElementsAre("Notice no : 2", "Retrieving the data ... Please be patient", "Number of records : 1",
+                  "Written sucessfully to the database - Number of notices : 1"));
+  EXPECT_TRUE(shell.screen.gridVisible);
+  EXPECT_THAT(script.boxes, IsEmpty());
+}
+
+TEST_F(Pipeline, a_cancelled_query_behind_the_load_leaves_the_database_open_and_no_grid) {
+  int shown = 0;
+  shell.forms.showQueryForm = [&] { ++shown; };
+  shell.run.qrySql = "SELECT vornakey FROM fmtv_vorna";
+  shell.run.qryConfirmed = true;
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  EXPECT_EQ(shown, 1);
+  EXPECT_NE(shell.run.DbConn, nullptr);
+  EXPECT_TRUE(shell.screen.queryEnabled);
+  EXPECT_TRUE(shell.screen.txtDbEnabled);
+  EXPECT_FALSE(shell.screen.gridVisible);
+  EXPECT_EQ(script.statuses.back(), "Notice no : 1");
+}
+
+TEST_F(Pipeline, findings_of_complete_validation_stay_in_sight_over_the_loaded_selection) {
+  shell.forms.showQueryForm = [this] { confirmOneNotice(shell); };
+  choose("bad.txt", kGoodFile);
+  runTextCommand(shell, kCompleteWithoutGeo);
+  EXPECT_THAT(script.viewed, ElementsAre(folder.file("bad_val_outcome.txt")));
+  EXPECT_EQ(script.statuses.back(), "Written sucessfully to the database - Number of notices : 0");
+  EXPECT_TRUE(shell.screen.viewFileVisible);
+  EXPECT_TRUE(shell.screen.reValVisible);
+}
+
+TEST_F(Pipeline, the_query_form_is_not_shown_where_no_database_was_made) {
+  int shown = 0;
+  shell.forms.showQueryForm = [&] { ++shown; };
+  std::filesystem::create_directories(folder.file("good.mdb/kept"));
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  EXPECT_EQ(shell.run.DbConn, nullptr);
+  EXPECT_EQ(shown, 0);
+  EXPECT_EQ(script.boxes.size(), 1U);
+}
+
+TEST_F(Pipeline, a_load_that_ends_early_is_followed_by_the_query_of_what_was_loaded) {
+  shell.forms.showQueryForm = [this] { confirmOneNotice(shell); };
+  // The reader of the second notice stops at its number of test points.
+  std::string two(kGoodNotice);
+  two.replace(two.find("<TAIL>"), std::string::npos,
+              "<NOTICE>\r\nt_notice_type = GA1\r\nt_nb_test_pts = -1\r\n</NOTICE>\r\n"
+              "<TAIL>\r\nt_num_notices = 2\r\n</TAIL>\r\n");
+  shell.run.NtcFileName = folder.write("two.txt", two);
+  Verdict verdict;
+  createAndLoadDb(shell, verdict);
+  EXPECT_EQ(verdict.failedAt, Stage::load);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].title, "readNtcsFromFileToDB");
+  EXPECT_EQ(script.statuses.back(), "Written sucessfully to the database - Number of notices : 1");
+}
+
+TEST_F(Pipeline, the_grid_lets_go_of_an_open_database_before_the_load) {
+  std::vector<const Connection*> detachedFrom;
+  shell.forms.detachGrid = [&] { detachedFrom.push_back(shell.run.DbConn.get()); };
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  EXPECT_THAT(detachedFrom, IsEmpty());
+  std::filesystem::copy_file(folder.file("good.mdb"), folder.file("other.mdb"));
+  const Connection* const open =
+      (shell.run.DbConn = std::make_unique<Connection>(folder.file("other.mdb"))).get();
+  Verdict verdict;
+  createAndLoadDb(shell, verdict);
+  EXPECT_THAT(detachedFrom, ElementsAre(open));
+  EXPECT_TRUE(verdict.passed());
+}
+
+TEST_F(Pipeline, an_error_of_the_query_behind_the_load_is_told_under_its_stage) {
+  shell.forms.showQueryForm = [this] { confirmOneNotice(shell); };
+  shell.forms.bindGrid = [] { throw RunTimeError{11, "database disk image is malformed"}; };
+  choose("good.txt", kGoodNotice);
+  runTextCommand(shell, kBasic);
+  ASSERT_EQ(script.boxes.size(), 1U);
+  EXPECT_EQ(script.boxes[0].text, "Erreur 11:database disk image is malformed");
+  EXPECT_EQ(script.boxes[0].title, "createAndLoadDb");
+  EXPECT_EQ(script.hourglasses, 0);
 }
 
 TEST_F(Pipeline, a_second_run_replaces_the_working_database_without_a_question) {

@@ -6,13 +6,13 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
-#include <QTimer>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <thread>
 
 #include "platform/run_time_error.h"
+#include "window/operators_hand.h"
 #include "window/window_fixture.h"
 
 namespace zamo::test {
@@ -29,24 +29,9 @@ class QtHost : public testing::Test {
     window.show();
   }
 
-  // Does `act` with the dialog that opens next.
   template <typename Dialog>
   void whenOpened(std::function<void(Dialog&)> act) {
-    auto* const operatorsHand = new QTimer(&window);
-    QObject::connect(operatorsHand, &QTimer::timeout, &window, [operatorsHand, act = std::move(act)] {
-      QWidget* const opened = QApplication::activeModalWidget();
-      if (opened == nullptr) return;
-      operatorsHand->stop();
-      operatorsHand->deleteLater();
-      auto* const dialog = qobject_cast<Dialog*>(opened);
-      EXPECT_NE(dialog, nullptr);
-      if (dialog == nullptr) {
-        opened->close();
-      } else {
-        act(*dialog);
-      }
-    });
-    operatorsHand->start(1);
+    operatorDoes<Dialog>(window, std::move(act));
   }
 
   TempFolder folder;

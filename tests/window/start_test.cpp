@@ -68,7 +68,7 @@ TEST_F(Window, has_every_control_under_its_name_and_caption) {
   EXPECT_EQ(plain(control<QPushButton>("ButtonReVal")), "ReValidate");
   EXPECT_TRUE(control<QLineEdit>("TxtFileName").isReadOnly());
   EXPECT_TRUE(control<QLineEdit>("TxtProcessingStatus").isReadOnly());
-  EXPECT_EQ(control<QTableView>("NtcDataGrid").model(), nullptr);
+  EXPECT_EQ(control<QTableView>("NtcDataGrid").model()->columnCount(), 0);
 }
 
 TEST_F(Window, starts_with_what_has_nothing_to_show_hidden) {
@@ -79,8 +79,9 @@ TEST_F(Window, starts_with_what_has_nothing_to_show_hidden) {
   }
   EXPECT_FALSE(menu("mnuPrefLang").isVisible());
   for (const char* off : {"mnuQuery", "mnuTxtDB"}) EXPECT_FALSE(menu(off).isEnabled()) << off;
-  for (const char* on : {"mnuFile", "mnuFileOpenTxt", "mnuFileOpenTxtBasicV", "mnuFileOpenTxtComplVNoGeo",
-                         "mnuFileOpenTxtComplVGeo", "mnuFileExit", "mnuPref", "mnuPrefDir"}) {
+  for (const char* on :
+       {"mnuFile", "mnuFileOpenTxt", "mnuFileOpenTxtBasicV", "mnuFileOpenTxtComplVNoGeo",
+        "mnuFileOpenTxtComplVGeo", "mnuFileOpenDB", "mnuFileExit", "mnuPref", "mnuPrefDir"}) {
     EXPECT_TRUE(menu(on).isEnabled()) << on;
   }
   EXPECT_TRUE(script.boxes.empty());
@@ -95,12 +96,11 @@ TEST_F(Window, english_keeps_the_check_mark_whatever_language_is_chosen) {
 }
 
 TEST_F(Window, a_missing_map_disables_the_text_commands_alone) {
-  const bool openDbBefore = menu("mnuFileOpenDB").isEnabled();
   start(MapOpening{folder.file("no_map"), [] { return 1; }});
   expectOneBox("The file gzmp32d.dll not found. Cannot proceed any further. Plese install the GZMP",
                "File Missing", BoxIcon::information);
   EXPECT_FALSE(menu("mnuFileOpenTxt").isEnabled());
-  EXPECT_EQ(menu("mnuFileOpenDB").isEnabled(), openDbBefore);
+  EXPECT_TRUE(menu("mnuFileOpenDB").isEnabled());
   EXPECT_TRUE(menu("mnuFileExit").isEnabled());
   EXPECT_TRUE(menu("mnuPrefDir").isEnabled());
 }
