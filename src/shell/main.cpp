@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "shell/main_window.h"
+#include "shell/notice_screens.h"
 #include "shell/qt_forms.h"
 #include "shell/qt_host.h"
 #include "shell/start_up.h"
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
   zamo::MainWindow window(shell);
   shell.host = zamo::makeQtHost(window);
   zamo::useQtForms(shell, window);
+  zamo::useNoticeScreens(shell, window);
   zamo::startUp(shell, zamo::mapBesideExecutable(shell));
   window.show();
   return QApplication::exec();
