@@ -67,6 +67,7 @@ TEST_P(Allotment, emptying_it_shows_the_area_again_and_locks) {
     EXPECT_TRUE(screen.isVisible(name)) << name;
   EXPECT_FALSE(screen.at("FrameSubArea").enabled);
   EXPECT_TRUE(list.empty());
+  EXPECT_TRUE(desk.focus.empty());
   EXPECT_TRUE(desk.script.boxes.empty());
 }
 
@@ -96,7 +97,9 @@ TEST_P(Allotment, a_geographic_area_hides_the_sub_areas) {
     EXPECT_FALSE(screen.isVisible(name)) << name;
   }
   EXPECT_FALSE(desk.work.state.screenIsBlank);
+  desk.work.state.screenIsBlank = true;
   desk.choose("Combo_LMZ04_geo_area", "");
+  EXPECT_TRUE(desk.work.state.screenIsBlank);
   for (const char* name :
        {"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea", "Lbl_LMZ04_or"}) {
     EXPECT_TRUE(screen.isVisible(name)) << name;
@@ -110,8 +113,9 @@ TEST_P(Allotment, contours_are_listed_up_to_the_number_of_sub_areas) {
   addContour("8");
   EXPECT_EQ(list, (Texts{"7", "8"}));
   EXPECT_TRUE(desk.script.boxes.empty());
+  desk.type("Txt_LMZ04_contour_id", "9");
   desk.work.state.screenIsBlank = true;
-  addContour("9");
+  desk.click("Button_Add_Contour");
   expectBox("The number of sub-areas have been added");
   EXPECT_EQ(list, (Texts{"7", "8"}));
   EXPECT_EQ(screen.text("Txt_LMZ04_contour_id"), "");
@@ -122,7 +126,10 @@ TEST_P(Allotment, contours_are_listed_up_to_the_number_of_sub_areas) {
 TEST_P(Allotment, the_same_number_stands_once) {
   desk.type("Txt_LMZ04_nb_sub_areas", "3");
   addContour("7");
-  addContour("0007");
+  desk.type("Txt_LMZ04_contour_id", "0007");
+  desk.work.state.screenIsBlank = true;
+  desk.click("Button_Add_Contour");
+  EXPECT_FALSE(desk.work.state.screenIsBlank);
   EXPECT_EQ(list, Texts{"7"});
   EXPECT_TRUE(desk.script.boxes.empty());
 }
@@ -141,9 +148,13 @@ TEST_P(Allotment, a_whole_number_enables_its_button) {
   EXPECT_FALSE(screen.at("Button_Add_Contour").enabled);
   EXPECT_FALSE(leave("Txt_LMZ04_contour_id"));
   expectBox("Value must be an integer");
+  desk.work.state.screenIsBlank = true;
   desk.type("Txt_LMZ04_contour_id", "15");
   EXPECT_TRUE(screen.at("Button_Add_Contour").enabled);
+  EXPECT_FALSE(desk.work.state.screenIsBlank);
+  screen.setEnabled("Button_Add_Contour", false);
   EXPECT_TRUE(leave("Txt_LMZ04_contour_id"));
+  EXPECT_TRUE(screen.at("Button_Add_Contour").enabled);
 }
 
 TEST_P(Allotment, the_contour_that_was_clicked_is_removed) {
@@ -152,9 +163,15 @@ TEST_P(Allotment, the_contour_that_was_clicked_is_removed) {
   screen.setEnabled("Button_Clear_Contour", false);
   desk.choose("ListBoxContourID", "2");
   EXPECT_TRUE(screen.at("Button_Clear_Contour").enabled);
+  screen.choose("ListBoxContourID", -1);
   desk.click("Button_Clear_Contour");
   EXPECT_EQ(list, (Texts{"1", "3"}));
   EXPECT_FALSE(screen.at("Button_Clear_Contour").enabled);
+  // Another number of sub-areas enables the button, but nothing is remembered any more.
+  desk.type("Txt_LMZ04_nb_sub_areas", "4");
+  EXPECT_TRUE(screen.at("Button_Clear_Contour").enabled);
+  desk.click("Button_Clear_Contour");
+  EXPECT_EQ(list, (Texts{"1", "3"}));
 }
 
 TEST_P(Allotment, intent_and_plan_entry_run_their_rules) {
@@ -204,6 +221,19 @@ TEST_P(Allotment, an_allotment_stored_with_both_kinds_of_area_shows_both) {
   EXPECT_TRUE(screen.isVisible("Txt_LMZ04_nb_sub_areas"));
   EXPECT_TRUE(screen.isVisible("FrameSubArea"));
   EXPECT_EQ(list, Texts{"11"});
+}
+
+TEST_P(Allotment, of_two_stored_kinds_of_area_the_one_that_is_left_stays) {
+  NtcRec ntc = GetParam() == kGT2Allot ? makeGt2() : makeGs2();
+  ntc.digital.allot.t_geo_area = "F";
+  ntc.digital.allot.t_nb_sub_areas = "1";
+  ntc.digital.allot.t_contour_id = {"11"};
+  fillForm(ntc, screen);
+  EXPECT_TRUE(leave("Txt_LMZ04_nb_sub_areas"));
+  EXPECT_FALSE(screen.isVisible("Combo_LMZ04_geo_area"));
+  fillForm(ntc, screen);
+  EXPECT_TRUE(leave("Combo_LMZ04_geo_area"));
+  EXPECT_FALSE(screen.isVisible("Txt_LMZ04_nb_sub_areas"));
 }
 
 }  // namespace

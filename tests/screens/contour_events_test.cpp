@@ -84,6 +84,13 @@ TEST_F(Contour, a_count_unlocks_and_counts_down) {
   EXPECT_EQ(screen.text("Txt_CountDownTP"), "8");
 }
 
+TEST_F(Contour, a_country_that_is_still_to_be_chosen_is_not_locked) {
+  screen.choose("Combo_4B_Ctry", 0);
+  desk.type("Txt_LMZ04_nb_test_pts", "4");
+  EXPECT_TRUE(leave("Txt_LMZ04_nb_test_pts"));
+  EXPECT_TRUE(isEnabled("Combo_4B_Ctry"));
+}
+
 TEST_F(Contour, an_empty_count_locks_on_leaving_and_not_while_it_is_typed) {
   addPoints(3);
   desk.type("Txt_LMZ04_nb_test_pts", "");
@@ -94,6 +101,9 @@ TEST_F(Contour, an_empty_count_locks_on_leaving_and_not_while_it_is_typed) {
   desk.type("Txt_LMZ04_nb_test_pts", "");
   EXPECT_TRUE(leave("Txt_LMZ04_nb_test_pts"));
   EXPECT_TRUE(list.empty());
+  EXPECT_EQ(screen.text("Txt_CountDownTP"), "0");
+  EXPECT_TRUE(isEnabled("Combo_4B_Ctry"));
+  EXPECT_TRUE(desk.focus.empty());
   EXPECT_FALSE(isEnabled("Txt_LMZ04_Deg_Long"));
   EXPECT_TRUE(screen.at("Txt_LMZ04_Deg_Long").grey);
 }
@@ -101,9 +111,12 @@ TEST_F(Contour, an_empty_count_locks_on_leaving_and_not_while_it_is_typed) {
 TEST_F(Contour, counts_outside_3_to_99_are_refused) {
   for (const char* wrong : {"2", "100", "3.0", "x"}) {
     desk.type("Txt_LMZ04_nb_test_pts", wrong);
+    EXPECT_FALSE(isEnabled("Txt_LMZ04_Deg_Long")) << wrong;
     EXPECT_FALSE(leave("Txt_LMZ04_nb_test_pts")) << wrong;
     expectBox("Value must be between [3-99]");
   }
+  desk.type("Txt_LMZ04_nb_test_pts", "");
+  EXPECT_FALSE(isEnabled("Txt_LMZ04_Deg_Long"));
 }
 
 TEST_F(Contour, a_number_of_five_digits_is_refused) {
@@ -117,15 +130,55 @@ TEST_F(Contour, a_number_of_five_digits_is_refused) {
 TEST_F(Contour, eight_boxes_enable_the_buttons) {
   desk.type("Txt_LMZ04_nb_test_pts", "3");
   typePoint({"2", "24", "10", "E", "47", "5", "30"});
-  EXPECT_FALSE(isEnabled("Button_Add_Coordinates"));
+  for (const char* button : {"Button_Add_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"})
+    EXPECT_FALSE(isEnabled(button)) << button;
   desk.type("Txt_LMZ04_NS", "N");
   EXPECT_TRUE(isEnabled("Button_Add_Coordinates"));
   EXPECT_TRUE(isEnabled("Button_Ins_Coordinates"));
   EXPECT_TRUE(isEnabled("Button_Upd_Coordinates"));
   desk.type("Txt_LMZ04_Sec_Long", "");
+  EXPECT_FALSE(isEnabled("Button_Add_Coordinates"));
   desk.type("Txt_LMZ04_Min_Long", "25");
   EXPECT_FALSE(isEnabled("Button_Add_Coordinates"));
+  desk.type("Txt_LMZ04_Sec_Long", "10");
+  EXPECT_TRUE(isEnabled("Button_Add_Coordinates"));
+  desk.type("Txt_LMZ04_Min_Long", "60");
+  EXPECT_FALSE(isEnabled("Button_Add_Coordinates"));
   EXPECT_TRUE(desk.script.boxes.empty());
+}
+
+TEST_F(Contour, each_box_has_its_say_on_the_buttons) {
+  desk.type("Txt_LMZ04_nb_test_pts", "3");
+  const Texts point = {"2", "24", "10", "E", "47", "5", "30", "N"};
+  for (std::size_t i = 0; i < point.size(); ++i) {
+    typePoint(point);
+    EXPECT_TRUE(isEnabled("Button_Add_Coordinates"));
+    desk.type(kBoxes[i], "");
+    EXPECT_FALSE(isEnabled("Button_Add_Coordinates")) << kBoxes[i];
+    EXPECT_TRUE(leave(kBoxes[i]));
+    EXPECT_FALSE(isEnabled("Button_Add_Coordinates")) << kBoxes[i];
+    screen.setEnabled("Button_Add_Coordinates", true);
+    EXPECT_TRUE(leave(kBoxes[i]));
+    EXPECT_FALSE(isEnabled("Button_Add_Coordinates")) << kBoxes[i];
+  }
+}
+
+TEST_F(Contour, modify_without_a_selected_point_adds_one_and_counts_right) {
+  addPoints(3);
+  desk.type("Txt_LMZ04_nb_test_pts", "5");
+  typePoint({"9", "24", "10", "E", "47", "5", "30", "N"});
+  desk.click("Button_Upd_Coordinates");
+  EXPECT_EQ(list.size(), 4U);
+  EXPECT_EQ(screen.text("Txt_CountDownTP"), "1");
+}
+
+TEST_F(Contour, delete_after_clear_all_counts_nothing) {
+  addPoints(3);
+  desk.choose("ListBox_LMZ04_Coordinates", "0022410E 470530N");
+  desk.click("Button_ClearAll_Coordinates");
+  desk.click("Button_Del_Coordinates");
+  EXPECT_EQ(screen.text("Txt_CountDownTP"), "3");
+  EXPECT_TRUE(list.empty());
 }
 
 TEST_F(Contour, a_point_is_padded_and_added_at_the_end) {
@@ -211,6 +264,15 @@ TEST_F(Contour, a_click_shows_the_point_in_the_boxes) {
   }
 }
 
+TEST_F(Contour, choosing_no_point_leaves_the_one_clicked_last) {
+  addPoints(3);
+  desk.choose("ListBox_LMZ04_Coordinates", "0022410E 470530N");
+  screen.choose("ListBox_LMZ04_Coordinates", -1);
+  EXPECT_EQ(screen.text("Txt_LMZ04_Deg_Long"), "002");
+  desk.click("Button_Del_Coordinates");
+  EXPECT_EQ(list, (Texts{"0012410E 470530N", "0032410E 470530N"}));
+}
+
 TEST_F(Contour, a_point_is_inserted_above_the_one_clicked_last) {
   addPoints(3);
   desk.type("Txt_LMZ04_nb_test_pts", "5");
@@ -241,6 +303,7 @@ TEST_F(Contour, a_modification_that_fails_leaves_the_list_one_short) {
   desk.choose("ListBox_LMZ04_Coordinates", "0022410E 470530N");
   desk.map.gzmpCountryAtPoint = [](const GzmpPoint&) { return std::string("SUI"); };
   desk.type("Txt_LMZ04_Deg_Long", "9");
+  screen.setVisible({"Txt_CountDownTP", "Lbl_CountDownTP"}, false);
   desk.click("Button_Upd_Coordinates");
   EXPECT_EQ(desk.script.boxes.size(), 1U);
   EXPECT_EQ(list, (Texts{"0012410E 470530N", "0032410E 470530N"}));

@@ -152,7 +152,7 @@ class FieldChecks : public testing::Test {
     EXPECT_EQ(at.script.beeps, 0);
     EXPECT_FALSE(at.work.state.screenIsBlank);
     EXPECT_EQ(at.screen.text(control), value);
-    EXPECT_TRUE(isAcceptable(at.screen, control, at.host));
+    EXPECT_TRUE(isAcceptable(at.screen, control));
     at.screen.setText(control, "");
   }
 
@@ -168,7 +168,7 @@ class FieldChecks : public testing::Test {
     EXPECT_EQ(at.script.beeps, beeps);
     EXPECT_TRUE(at.work.state.screenIsBlank);
     EXPECT_EQ(at.screen.text(control), value);
-    EXPECT_FALSE(isAcceptable(at.screen, control, at.host));
+    EXPECT_FALSE(isAcceptable(at.screen, control));
     EXPECT_EQ(at.script.boxes.size(), 1U) << "asking tells nothing";
     at.screen.setText(control, "");
   }
@@ -204,7 +204,7 @@ TEST_F(FieldChecks, empty_fields_are_accepted_and_leave_the_screen_as_blank_as_i
       EXPECT_TRUE(leave(*at, field.control, ""));
       EXPECT_TRUE(at->script.boxes.empty());
       EXPECT_TRUE(at->work.state.screenIsBlank);
-      EXPECT_TRUE(isAcceptable(at->screen, field.control, at->host));
+      EXPECT_TRUE(isAcceptable(at->screen, field.control));
     }
   }
 }
@@ -259,7 +259,7 @@ TEST_F(FieldChecks, no_other_field_is_checked) {
       EXPECT_TRUE(at->script.boxes.empty());
       EXPECT_TRUE(at->work.state.screenIsBlank);
       EXPECT_EQ(at->screen.text(control), "1x,.?");
-      EXPECT_TRUE(isAcceptable(at->screen, control, at->host));
+      EXPECT_TRUE(isAcceptable(at->screen, control));
     }
   }
 }
@@ -276,7 +276,7 @@ TEST_F(FieldChecks, fields_without_a_check_on_their_form_are_those_that_are_told
 TEST_F(FieldChecks, a_control_that_the_form_does_not_have_may_be_left) {
   FormAtWork& at = *forms[kTB5];
   EXPECT_TRUE(mayLeaveField(at.form, "qt_spinbox_lineedit"));
-  EXPECT_TRUE(isAcceptable(at.screen, "qt_spinbox_lineedit", at.host));
+  EXPECT_TRUE(isAcceptable(at.screen, "qt_spinbox_lineedit"));
   EXPECT_TRUE(at.script.boxes.empty());
 }
 
@@ -364,7 +364,7 @@ TEST_F(FieldChecks, the_copy_to_the_master_register_pads_any_operating_agency_wi
 TEST_F(FieldChecks, an_operating_agency_that_is_asked_about_stays_as_it_is) {
   FormAtWork& at = *forms[kGS1Assign];
   at.screen.setText("Txt_12A_OpAgcy", "12");
-  EXPECT_TRUE(isAcceptable(at.screen, "Txt_12A_OpAgcy", at.host));
+  EXPECT_TRUE(isAcceptable(at.screen, "Txt_12A_OpAgcy"));
   EXPECT_EQ(at.screen.text("Txt_12A_OpAgcy"), "12");
 }
 

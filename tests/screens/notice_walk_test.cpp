@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "database/delete_notice.h"
+#include "platform/run_time_error.h"
 #include "screens/notice_desk.h"
 
 namespace zamo {
@@ -90,6 +91,28 @@ TEST_F(Walk, neighbours_are_those_that_are_not_deleted) {
   EXPECT_FALSE(hasNtcBefore(run, 4));
 }
 
+TEST_F(Walk, a_list_and_a_count_that_differ_end_at_the_lesser) {
+  select({11, 12});
+  run.NtcCount = 1;
+  EXPECT_EQ(getNtcKeyAt(run, 1, 1), 999999999);
+  EXPECT_FALSE(hasNtcFrom(run, 1));
+  run.NtcCount = 5;
+  EXPECT_EQ(getNtcKeyAt(run, 2, 1), 999999999);
+  EXPECT_FALSE(hasNtcFrom(run, 2));
+}
+
+TEST_F(Walk, the_entry_that_is_marked_is_the_one_at_the_position) {
+  select({11, 12});
+  run.IndexPos = 1;
+  markDeleted(run);
+  EXPECT_EQ(run.IndexList, (std::vector<std::int32_t>{11, 888888888}));
+  for (const std::int32_t beyond : {-1, 2}) {
+    run.IndexPos = beyond;
+    markDeleted(run);
+  }
+  EXPECT_EQ(run.IndexList, (std::vector<std::int32_t>{11, 888888888}));
+}
+
 TEST_F(Walk, a_million_deleted_entries_are_no_depth) {
   select(std::vector<std::int32_t>(1000000, 888888888));
   EXPECT_FALSE(hasNtcFrom(run, 0));
@@ -153,6 +176,8 @@ TEST_F(OpenNotice, each_form_has_its_title) {
     open(idx++, [&](NoticeForm& form) {
       EXPECT_EQ(form.screen.title(), row.title);
       EXPECT_FALSE(form.screen.at("Combo_B_Adm").enabled) << row.kind;
+      EXPECT_TRUE(form.screen.isVisible("Txt_EmailAddr")) << row.kind;
+      EXPECT_TRUE(form.screen.isVisible("Lbl_EmailAddr")) << row.kind;
     });
   }
 }
@@ -226,6 +251,57 @@ TEST_F(OpenNotice, the_walk_skips_a_deleted_entry_and_ends_behind_the_last_live_
     EXPECT_EQ(form.screen.text("Txt_AdmRefID"), "A");
     EXPECT_FALSE(form.screen.at("Button_Prev_Ntc").enabled);
   });
+}
+
+TEST_F(OpenNotice, a_blank_screen_is_not_blank_with_the_next_notice) {
+  add("GS1", "A");
+  add("GS1", "B");
+  open(0, [&](NoticeForm& form) {
+    work.state.screenIsBlank = true;
+    click(form, "Button_Next_Ntc");
+    EXPECT_FALSE(work.state.screenIsBlank);
+  });
+}
+
+TEST_F(OpenNotice, what_was_clicked_on_one_notice_is_forgotten_on_the_next) {
+  run.qryIsNotice = false;
+  add("GA1");
+  NtcRec other = makeGa1();
+  other.digital.contour.t_contour_id = "2";
+  add(other);
+  open(0, [&](NoticeForm& form) {
+    form.screen.choose("ListBox_LMZ04_Coordinates", 1);
+    click(form, "Button_Next_Ntc");
+    click(form, "Button_Del_Coordinates");
+    EXPECT_EQ(form.screen.items("ListBox_LMZ04_Coordinates").size(), 3U);
+    EXPECT_EQ(form.screen.text("Txt_CountDownTP"), "0");
+  });
+}
+
+TEST_F(OpenNotice, beyond_the_ends_of_the_selection_the_notice_stays) {
+  const std::int32_t key = add("GT1");
+  open(0, [&](NoticeForm& form) {
+    for (const char* button : {"Button_Next_Ntc", "Button_Prev_Ntc"}) {
+      click(form, button);
+      EXPECT_EQ(form.screen.text("Txt_AdmRefID"), "F-0001") << button;
+      EXPECT_FALSE(closed) << button;
+    }
+  });
+  EXPECT_EQ(run.SelKey, key);
+  EXPECT_EQ(run.IndexPos, 0);
+}
+
+TEST_F(OpenNotice, a_form_that_failed_leaves_nothing_for_the_next_opening) {
+  add("GT1");
+  add("TB5");
+  steps.push_back([&](NoticeForm& form) {
+    click(form, "Button_Next_Ntc");
+    --shownNow;
+    throw RunTimeError{kIndexOutOfRange, "Subscript out of range"};
+  });
+  EXPECT_THROW(open(0), RunTimeError);
+  open(0);
+  EXPECT_EQ(shown, (std::vector<FormCode>{kGT1Assign, kGT1Assign}));
 }
 
 TEST_F(OpenNotice, a_mixed_list_changes_the_form) {

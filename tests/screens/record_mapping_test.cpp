@@ -101,7 +101,7 @@ TEST(ScreenMapping, the_rules_of_the_forms_change_nothing_of_what_is_filled_in) 
     bare.fill(full);
     NtcRec expected = bare.read();
     // Of what is operated only from a day on the blank hours are those of a whole day.
-    const bool hasHours = full.t_notice_type.ends_with("1") && full.t_notice_type != "GA1";
+    const bool hasHours = full.t_fragment == "NTFD_PZ";
     if (hasHours && !expected.op_hours.present) expected.op_hours = {true, "0000", "2400"};
     EXPECT_TRUE(ruled.read() == expected) << kind;
   }
@@ -202,8 +202,8 @@ TEST_F(ScreenAndDatabase, a_notice_that_is_corrected_without_a_change_stays_the_
     // The form of these two has no list for it.
     if (first.t_notice_type == "TB2" || first.t_notice_type == "TB5") expected.coord = {};
     for (CoordEntryRec& entry : expected.coord.entries) entry.d_coord_st.clear();
-    const bool isAssignment = isOneOf(test::formOf(kind), kAssignmentForms);
-    if (isAssignment && !expected.op_hours.present) expected.op_hours = {true, "0000", "2400"};
+    const bool isNotified = first.t_fragment == "NTFD_PZ";
+    if (isNotified && !expected.op_hours.present) expected.op_hours = {true, "0000", "2400"};
     EXPECT_TRUE(readBack(second) == expected) << kind;
     expectNothingTold();
   }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "database/delete_notice.h"
 #include "database/raw_database.h"
 #include "screens/notice_desk.h"
 
@@ -130,22 +131,24 @@ TEST_F(SaveFlows, validation_asks_the_map_at_every_level) {
 
 TEST_F(SaveFlows, agencies_are_asked_for_assignments_and_TB2) {
   agenciesKnown = false;
-  const auto titleOf = [&](std::string_view kind) {
+  const auto isAskedFor = [&](std::string_view kind) {
     const std::int32_t idx = run.NtcCount;
     add(kind);
     open(idx, [&](NoticeForm& form) {
       if (form.screen.has("Txt_12A_OpAgcy")) type(form, "Txt_12A_OpAgcy", "001");
       click(form, "Button_Validate");
     });
-    const std::string text = results.empty() ? "" : results.back().text;
+    const Box result = results.empty() ? Box() : results.back();
     results.clear();
-    return text.find("t_op_agcy") != std::string::npos;
+    const bool isTold = result.text.find("t_op_agcy") != std::string::npos;
+    EXPECT_EQ(result.title, isTold ? "Notice Error(s)" : "Notice Receivable") << kind;
+    return isTold;
   };
-  EXPECT_TRUE(titleOf("GT1/5"));
-  EXPECT_TRUE(titleOf("GS1/5"));
-  EXPECT_TRUE(titleOf("TB2"));
-  EXPECT_FALSE(titleOf("GT2"));
-  EXPECT_FALSE(titleOf("TB3"));
+  EXPECT_TRUE(isAskedFor("GT1/5"));
+  EXPECT_TRUE(isAskedFor("GS1/5"));
+  EXPECT_TRUE(isAskedFor("TB2"));
+  EXPECT_FALSE(isAskedFor("GT2"));
+  EXPECT_FALSE(isAskedFor("TB3"));
 }
 
 // Update.
@@ -308,6 +311,17 @@ TEST_F(SaveFlows, a_field_that_was_emptied_stays_empty) {
   EXPECT_EQ(stored(key).t_call_sign, "");
 }
 
+TEST_F(SaveFlows, after_an_update_the_screen_shows_what_was_stored) {
+  add("GT1");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    type(form, "Txt_4C_Deg_Long", "2");
+    click(form, "Button_Next");
+    EXPECT_EQ(form.screen.text("Txt_4C_Deg_Long"), "002");
+  });
+  expectBoxes({kUpdated});
+}
+
 TEST_F(SaveFlows, a_TB_notice_is_replaced_and_gets_a_new_key) {
   const std::int32_t old = add("TB5");
   const std::int32_t other = add("TB5");
@@ -343,6 +357,21 @@ TEST_F(SaveFlows, a_TB_notice_that_cannot_be_replaced_is_not_lost) {
   EXPECT_EQ(script.boxes.back().text, "Failed to update the notice in the Database");
   EXPECT_TRUE(isStored(key));
   EXPECT_EQ(run.IndexList, std::vector<std::int32_t>{key});
+}
+
+TEST_F(SaveFlows, the_only_TB_notice_of_a_selection_is_shown_again_under_its_new_key) {
+  const std::int32_t old = add("TB5");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    type(form, "Txt_TrgAdmRefID", "F-NEW");
+    click(form, "Button_Next");
+    EXPECT_EQ(form.screen.text("Txt_TrgAdmRefID"), "F-NEW");
+    EXPECT_NE(form.screen.text("Txt_Ntc_Number"), std::to_string(old));
+    EXPECT_FALSE(form.screen.at("Button_Prev_Ntc").enabled);
+    EXPECT_FALSE(closed);
+  });
+  EXPECT_EQ(run.IndexPos, 1);
+  expectBoxes({kUpdated});
 }
 
 TEST_F(SaveFlows, a_TB_form_and_a_contour_have_no_question_about_invalid_notices) {
@@ -472,7 +501,12 @@ TEST_F(SaveFlows, a_new_notice_that_the_database_refuses_is_told) {
       .run("CREATE TRIGGER refusal BEFORE INSERT ON fmtv_vorna BEGIN SELECT RAISE(ABORT, 'no room'); END");
   script.texts = {"F-2"};
   script.answers = {true};
-  open(0, [&](NoticeForm& form) { click(form, "Button_AddNew"); });
+  open(0, [&](NoticeForm& form) {
+    type(form, "Txt_4A_SiteName", "NEVERS");
+    click(form, "Button_AddNew");
+    EXPECT_EQ(form.screen.text("Txt_4A_SiteName"), "NEVERS");
+    EXPECT_FALSE(closed);
+  });
   ASSERT_FALSE(script.boxes.empty());
   EXPECT_EQ(script.boxes.back().title + ": " + script.boxes.back().text,
             "Save Notice: Failed to save the NEW notice to the Database");
@@ -546,6 +580,20 @@ TEST_F(SaveFlows, a_TB_notice_from_another_one_asks_no_identifier_and_closes) {
   EXPECT_EQ(stored(run.IndexList[1]).t_trg_adm_ref_id, "F-7");
 }
 
+TEST_F(SaveFlows, a_TB_notice_from_another_one_that_the_database_refuses_stays_on_the_screen) {
+  add("TB5");
+  test::RawDatabase(run.DbFileName)
+      .run("CREATE TRIGGER refusal BEFORE INSERT ON fmtv_vorna BEGIN SELECT RAISE(ABORT, 'no room'); END");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    work.state.ntcFromOtherNotice = true;
+    type(form, "Txt_TrgAdmRefID", "F-7");
+    click(form, "Button_AddNew");
+    EXPECT_EQ(form.screen.text("Txt_TrgAdmRefID"), "F-7");
+    EXPECT_FALSE(closed);
+  });
+}
+
 // Contours.
 
 class SaveContour : public SaveFlows {
@@ -583,6 +631,96 @@ TEST_F(SaveContour, a_new_contour_stands_at_the_end) {
   expectQuestions({"Save Notice: ADD this NEW sub area to the END of Database?"});
   expectBoxes({kAdded});
   EXPECT_EQ(run.IndexList, (std::vector<std::int32_t>{1, 2}));
+}
+
+TEST_F(SaveContour, a_new_contour_is_an_addition_whatever_the_old_one_asks) {
+  NtcRec ntc = makeGa1();
+  ntc.t_action = "SUPPRESS";
+  add(ntc);
+  script.texts = {"77"};
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    EXPECT_TRUE(form.screen.isSet("OptInt_Suppress"));
+    click(form, "Button_AddNew");
+    EXPECT_TRUE(form.screen.isSet("OptInt_Suppress"));
+  });
+  expectBoxes({kAdded});
+  EXPECT_EQ(value("SELECT intent FROM lmz_contour WHERE contour_id = 77"), "ADD");
+}
+
+TEST_F(SaveContour, the_length_of_a_contour_id_is_not_limited) {
+  add("GA1");
+  script.texts = {"000000000000000000077"};
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) { click(form, "Button_AddNew"); });
+  expectBoxes({kAdded});
+  EXPECT_EQ(value("SELECT count(*) FROM lmz_contour WHERE contour_id = 77"), "1");
+}
+
+TEST_F(SaveContour, a_contour_id_beyond_all_numbers_is_told_and_not_stored) {
+  add("GA1");
+  script.texts = {"1e300"};
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) { click(form, "Button_AddNew"); });
+  ASSERT_FALSE(script.boxes.empty());
+  EXPECT_EQ(script.boxes.back().text, "Failed to save the NEW notice to the Database");
+  EXPECT_EQ(value("SELECT count(*) FROM lmz_contour"), "1");
+}
+
+TEST_F(SaveContour, a_contour_that_stands_twice_is_told_once_as_a_duplicate) {
+  add("GA1");
+  add("GA1");
+  script.texts = {"1"};
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) { click(form, "Button_AddNew"); });
+  expectBoxes({"Error: Duplicate Contour ID 1\r\nPlease change the Contour ID to save the notice"});
+  EXPECT_EQ(value("SELECT count(*) FROM lmz_contour"), "2");
+}
+
+TEST_F(SaveContour, a_contour_that_stands_twice_with_too_few_points_is_told_and_not_stored) {
+  add("GA1");
+  add("GA1");
+  test::RawDatabase(run.DbFileName).run("DELETE FROM lmz_contour_pt WHERE test_pt = 1");
+  NtcRec other = makeGa1();
+  other.digital.contour.t_contour_id = "88";
+  add(other);
+  script.texts = {"1"};
+  script.answers = {true};
+  open(2, [&](NoticeForm& form) { click(form, "Button_AddNew"); });
+  expectBoxes({": Problem : Contour ID is not unique !! Please consult the adminstrator",
+               "Error: Duplicate Contour ID 1\r\nPlease change the Contour ID to save the notice"});
+  EXPECT_EQ(value("SELECT count(*) FROM lmz_contour"), "3");
+}
+
+TEST_F(SaveContour, a_contour_that_became_a_placeholder_meanwhile_is_updated_with_its_points) {
+  const std::int32_t key = add("GA1");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    deleteContourFromDB(host, key, *run.DbConn);
+    EXPECT_EQ(value("SELECT count(*) FROM lmz_contour_pt"), "0");
+    click(form, "Button_Next");
+  });
+  expectBoxes({kUpdated});
+  EXPECT_EQ(value("SELECT count(*) FROM lmz_contour_pt"), "3");
+}
+
+TEST_F(SaveContour, ninety_nine_points_are_read_and_stored_again) {
+  NtcRec ntc = makeGa1();
+  ContourRec& contour = ntc.digital.contour;
+  contour.t_nb_test_pts = "99";
+  contour.points.clear();
+  for (int i = 0; i < 99; ++i)
+    contour.points.push_back({true, "+00200" + std::to_string(100 + i).substr(1), "+470000"});
+  contour.points.emplace_back();
+  add(ntc);
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    EXPECT_EQ(form.screen.items("ListBox_LMZ04_Coordinates").size(), 99U);
+    EXPECT_EQ(form.screen.text("Txt_CountDownTP"), "0");
+    click(form, "Button_Next");
+  });
+  EXPECT_EQ(script.boxes.back().text, "The notice was sucessfully updated in the Database");
+  EXPECT_EQ(value("SELECT count(*) FROM lmz_contour_pt"), "99");
 }
 
 TEST_F(SaveContour, a_contour_that_is_notified_already_is_never_overwritten) {
@@ -656,6 +794,20 @@ TEST_F(SaveFlows, a_deletion_is_asked_for_and_shows_the_neighbour) {
   EXPECT_EQ(run.IndexList[0], 888888888);
   EXPECT_EQ(run.NtcCount, 2);
   EXPECT_TRUE(work.state.ntcListChanged);
+}
+
+TEST_F(SaveFlows, a_deletion_off_the_selection_closes_the_screen) {
+  const std::int32_t key = add("GT1");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    run.IndexList.clear();
+    run.NtcCount = 0;
+    click(form, "Button_Finish");
+    EXPECT_TRUE(closed);
+  });
+  EXPECT_FALSE(isStored(key));
+  EXPECT_TRUE(run.IndexList.empty());
+  expectBoxes({});
 }
 
 TEST_F(SaveFlows, No_deletes_nothing) {

@@ -132,6 +132,40 @@ TEST_F(Creation, without_a_type_it_beeps_and_opens_nothing) {
   EXPECT_EQ(shown, std::vector<FormCode>{kGT1Assign});
 }
 
+TEST_F(Creation, without_a_type_an_allotment_opens_nothing_either) {
+  for (const char* kind : {"GT2", "GS2"}) {
+    create(kind, nullptr, [](NoticeForm&) { ADD_FAILURE() << "opened"; });
+    expectBoxes({"MN/QST/WQN: Please, choose a notice type"});
+    script.boxes.clear();
+  }
+  EXPECT_EQ(script.beeps, 2);
+}
+
+TEST_F(Creation, a_variant_or_a_mode_beside_a_stored_configuration_is_enough_for_a_TB2) {
+  struct Given {
+    const char* combo;
+    const char* value;
+  };
+  for (const Given& given : {Given{"Combo_LMZ04_Sys_Var", "C2"}, Given{"Combo_LMZ04_RxMode", "FX"}}) {
+    change = [&](NoticeForm& form) {
+      form.screen.choose("Combo_LMZ04_Sys_Var", 0);
+      form.screen.choose("Combo_LMZ04_RxMode", 0);
+      form.screen.chooseText(given.combo, given.value);
+      form.screen.setVisible("Combo_LMZ04_RefPlan", true);
+    };
+    bool opened = false;
+    create("GT1", "Opt_TB2", [&](NoticeForm& form) { opened = form.screen.code() == kTB2; });
+    EXPECT_TRUE(opened) << given.combo;
+  }
+  expectBoxes({});
+}
+
+TEST_F(Creation, a_blank_source_makes_no_blank_form_and_stays_blank) {
+  change = [&](NoticeForm&) { work.state.screenIsBlank = true; };
+  create("GS1", "Opt_TB3", [&](NoticeForm&) { EXPECT_FALSE(work.state.screenIsBlank); });
+  EXPECT_TRUE(work.state.screenIsBlank);
+}
+
 TEST_F(Creation, the_new_notice_is_added_without_a_prompt_and_the_source_stays) {
   script.answers = {true};
   create("GT1", "Opt_TB5", [&](NoticeForm& form) {
@@ -167,8 +201,10 @@ TEST_F(TargetOfTB2, leaving_its_identifier_hides_and_shows_frequency_and_place) 
     EXPECT_TRUE(mayLeaveField(form, "Txt_TrgAdmRefID"));
     for (const char* name : elements) EXPECT_FALSE(form.screen.isVisible(name)) << name;
     EXPECT_FALSE(work.state.screenIsBlank);
+    work.state.screenIsBlank = true;
     type(form, "Txt_TrgAdmRefID", "");
     EXPECT_TRUE(mayLeaveField(form, "Txt_TrgAdmRefID"));
+    EXPECT_TRUE(work.state.screenIsBlank);
     for (const char* name : elements) EXPECT_TRUE(form.screen.isVisible(name)) << name;
   });
   expectBoxes({});
@@ -188,6 +224,59 @@ TEST_F(TargetOfTB2, empty_hours_become_the_whole_day_in_every_flow) {
     });
     script.boxes.clear();
     script.questions.clear();
+  }
+}
+
+TEST_F(TargetOfTB2, hours_that_are_told_stay) {
+  NtcRec ntc = makeTb2();
+  ntc.op_hours = {true, "0600", "1800"};
+  const std::int32_t key = add(ntc);
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    click(form, "Button_Validate");
+    EXPECT_EQ(form.screen.text("Txt_10B_Ophhfr"), "0600");
+    EXPECT_EQ(form.screen.text("Txt_10B_Ophhto"), "1800");
+    click(form, "Button_Next");
+  });
+  EXPECT_FALSE(isStored(key));
+  const NtcRec after = stored(run.IndexList.back());
+  EXPECT_EQ(after.op_hours.t_op_hh_fr, "0600");
+  EXPECT_EQ(after.op_hours.t_op_hh_to, "1800");
+}
+
+TEST_F(TargetOfTB2, a_stored_place_that_is_emptied_gives_way_to_the_identifier) {
+  NtcRec ntc = makeTb2();
+  ntc.t_trg_adm_ref_id.clear();
+  ntc.t_trg_freq_assgn = "474";
+  add(ntc);
+  open(0, [&](NoticeForm& form) {
+    EXPECT_FALSE(form.screen.isVisible("Txt_TrgAdmRefID"));
+    type(form, "Txt_4C_EW", "E");
+    type(form, "Txt_TrgFreq", "");
+    EXPECT_TRUE(mayLeaveField(form, "Txt_TrgFreq"));
+    EXPECT_FALSE(form.screen.isVisible("Txt_TrgAdmRefID"));
+    type(form, "Txt_4C_EW", "");
+    EXPECT_TRUE(mayLeaveField(form, "Txt_4C_EW"));
+    for (const char* name : {"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"})
+      EXPECT_TRUE(form.screen.isVisible(name)) << name;
+  });
+  expectBoxes({});
+}
+
+TEST_F(TargetOfTB2, each_box_of_the_place_gives_way_when_it_is_the_last) {
+  for (const char* box : {"Txt_TrgFreq", "Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_EW",
+                          "Txt_4C_Deg_Lat", "Txt_4C_Min_Lat", "Txt_4C_Sec_Lat", "Txt_4C_NS"}) {
+    const std::int32_t idx = run.NtcCount;
+    NtcRec ntc = makeTb2();
+    ntc.t_trg_adm_ref_id.clear();
+    ntc.t_trg_freq_assgn = "474";
+    add(ntc);
+    open(idx, [&](NoticeForm& form) {
+      type(form, "Txt_TrgFreq", "");
+      EXPECT_FALSE(form.screen.isVisible("Txt_TrgAdmRefID"));
+      EXPECT_TRUE(mayLeaveField(form, box));
+      EXPECT_TRUE(form.screen.isVisible("Txt_TrgAdmRefID")) << box;
+    });
   }
 }
 

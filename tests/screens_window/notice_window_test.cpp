@@ -296,15 +296,29 @@ TEST_F(TelevisionAssignment, captions_tips_and_the_title_follow) {
 
 TEST_F(TelevisionAssignment, what_is_hidden_leaves_its_place) {
   show();
+  const auto placeOf = [this](const char* name) { return control(name).mapTo(window.get(), QPoint()); };
   QTest::qWait(1);
-  const QPoint before = box("Txt_KV19_assoc_allot_sfnID").mapTo(window.get(), QPoint());
-  form.screen.setVisible({"Txt_LMZ04_SfnID", "Lbl_LMZ04_SfnID", "Txt_LMZ04_AdmAllotID", "FrameTrg"}, false);
+  const QPoint site = placeOf("Txt_4A_SiteName");
+  const QPoint planEntry = placeOf("Txt_PlanAdm_RefID");
+  const QPoint power = placeOf("Txt_8BV_Erp_V");
+  form.screen.setVisible({"FrameTrg", "Frame_Art4_Only", "Txt_8BH_Erp_H", "Lbl_8BH_Erp_H"}, false);
   QTest::qWait(1);
-  EXPECT_FALSE(box("Txt_LMZ04_SfnID").isVisible());
+  EXPECT_FALSE(box("Txt_8BH_Erp_H").isVisible());
   EXPECT_FALSE(box("Txt_TrgAdmRefID").isVisible());
-  EXPECT_EQ(box("Txt_KV19_assoc_allot_sfnID").mapTo(window.get(), QPoint()), before);
+  EXPECT_EQ(placeOf("Txt_4A_SiteName"), site);
+  EXPECT_EQ(placeOf("Txt_PlanAdm_RefID"), planEntry);
+  EXPECT_EQ(placeOf("Txt_8BV_Erp_V"), power);
   form.screen.setVisible("FrameTrg", true);
   EXPECT_TRUE(box("Txt_TrgAdmRefID").isVisible());
+}
+
+TEST_F(TelevisionAssignment, common_buttons_that_are_hidden_leave_no_gap) {
+  show();
+  QTest::qWait(1);
+  const QPoint place = button("Button_Next").pos();
+  form.screen.setVisible("Button_Next", false);
+  QTest::qWait(1);
+  EXPECT_EQ(button("Button_AddNew").pos(), place);
 }
 
 TEST_F(TelevisionAllotment, a_locked_group_is_disabled_and_grey) {
