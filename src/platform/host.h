@@ -50,11 +50,26 @@ struct Host {
   std::function<bool(const std::string& path)> startTextViewer;
 };
 
+// The pointer is the hourglass as long as this lives.
+class Hourglass {
+ public:
+  explicit Hourglass(const Host& host) : host_(host) { host_.setHourglass(true); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+  ~Hourglass() { host_.setHourglass(false); }
+
+ private:
+  const Host& host_;
+};
+
 // The first 8 characters of the logon name, those that are NUL left out.
 std::string getLogonName(const Host& host);
 
 // The box in which an operation tells of a failure of the machine. The title is the operation's name.
 // With the number 0 nothing is shown.
 void showRunTimeError(const Host& host, int number, std::string_view title, std::string_view description);
+
+// Does what the user asked for. Whatever it throws ends up in that box, under a pointer that is normal again.
+void runGuarded(const Host& host, std::string_view title, const std::function<void()>& action);
 
 }  // namespace zamo

@@ -23,10 +23,6 @@ void show(Screen& screen, const std::string_view (&controls)[Count], bool visibl
   for (const std::string_view control : controls) screen.setVisible(control, visible);
 }
 
-void noteNotBlank(NoticeForm& form) {
-  if (form.screen.byUser) form.work.state.screenIsBlank = false;
-}
-
 // An area is either made of sub-areas or a whole country. What is stored is seen, even if it is both.
 void showAreas(Screen& screen) {
   const bool isCountry = !screen.isEmpty("Combo_LMZ04_geo_area");
@@ -38,11 +34,11 @@ void showAreas(Screen& screen) {
 
 void changeSubAreaCount(NoticeForm& form, std::string_view control) {
   Screen& screen = form.screen;
-  if (!isAcceptable(screen, control, form.work.host)) return;
+  if (!isAcceptable(screen, control)) return;
   const bool isEmpty = screen.isEmpty(control);
   showAreas(screen);
   lockSubAreas(screen, isEmpty);
-  if (!isEmpty) noteNotBlank(form);
+  if (!isEmpty) noteBlank(form, false);
 }
 
 void leaveSubAreaCount(NoticeForm& form, std::string_view control) {
@@ -54,14 +50,14 @@ void leaveSubAreaCount(NoticeForm& form, std::string_view control) {
 
 void chooseGeoArea(NoticeForm& form, std::string_view control) {
   showAreas(form.screen);
-  if (!form.screen.isEmpty(control)) noteNotBlank(form);
+  if (!form.screen.isEmpty(control)) noteBlank(form, false);
 }
 
 void changeContourId(NoticeForm& form, std::string_view control) {
   const Screen& screen = form.screen;
-  if (screen.isEmpty(control) || !isAcceptable(screen, control, form.work.host)) return;
+  if (screen.isEmpty(control) || !isAcceptable(screen, control)) return;
   form.screen.setEnabled("Button_Add_Contour", true);
-  noteNotBlank(form);
+  noteBlank(form, false);
 }
 
 bool listsContour(const Screen& screen, double contour) {
@@ -79,10 +75,10 @@ void addContour(NoticeForm& form, std::string_view /*button*/) {
     host.showBox({kEnoughContours.filled({}), ""});
     screen.setText("Txt_LMZ04_contour_id", "");
     screen.setEnabled("Button_Add_Contour", false);
-    return noteNotBlank(form);
+    return noteBlank(form, false);
   }
   const double contour = leadingNumber(screen.text("Txt_LMZ04_contour_id"));
-  if (listsContour(screen, contour)) return noteNotBlank(form);
+  if (listsContour(screen, contour)) return noteBlank(form, false);
   screen.addItem("ListBoxContourID", numberText(contour));
   screen.setText("Txt_LMZ04_contour_id", "");
 }
@@ -95,6 +91,7 @@ void pickContour(NoticeForm& form, std::string_view control) {
 
 void clearContour(NoticeForm& form, std::string_view button) {
   form.screen.removeItem("ListBoxContourID", form.selectedContourIdx);
+  form.selectedContourIdx = -1;
   form.screen.setEnabled(button, false);
 }
 
@@ -107,7 +104,7 @@ void choosePlanEntry(NoticeForm& form, std::string_view /*control*/) {
 }
 
 void chooseSomething(NoticeForm& form, std::string_view control) {
-  if (!form.screen.isEmpty(control)) noteNotBlank(form);
+  if (!form.screen.isEmpty(control)) noteBlank(form, false);
 }
 
 constexpr FormSet kBoth = kAllotmentForms;
@@ -121,7 +118,6 @@ constexpr EventRow kEvents[] = {
     {kBoth, Event::click,  "Combo_LMZ04_RefPlan",    chooseSomething},
     {kBoth, Event::change, "Txt_LMZ04_nb_sub_areas", changeSubAreaCount},
     {kBoth, Event::click,  "Combo_LMZ04_geo_area",   chooseGeoArea},
-    {kBoth, Event::change, "Combo_LMZ04_geo_area",   chooseGeoArea},
     {kBoth, Event::change, "Txt_LMZ04_contour_id",   changeContourId},
     {kBoth, Event::click,  "Button_Add_Contour",     addContour},
     {kBoth, Event::click,  "ListBoxContourID",       pickContour},

@@ -18,12 +18,6 @@ constexpr std::string_view kTargetNumbers[] = {"Txt_trg_freq_assgn", "Txt_trg_lo
 constexpr std::string_view kTargetLetters[] = {"Txt_trg_long_EW", "Txt_trg_lat_NS"};
 constexpr std::string_view kTargetIdentifier[] = {"Txt_TrgAdmRefID"};
 
-// Only what the user chooses tells whether something stands on the screen, and not a notice that a button of
-// theirs brings to it.
-void noteBlank(NoticeForm& form, bool isBlank) {
-  if (form.screen.byUser && !form.screen.filling) form.work.state.screenIsBlank = isBlank;
-}
-
 void chooseArticle(NoticeForm& form, std::string_view /*control*/) {
   applyArticleRule(form.screen);
 }

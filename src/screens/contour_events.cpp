@@ -2,7 +2,6 @@
 #include <array>
 #include <string>
 
-#include "model/ntc_reset.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -49,8 +48,9 @@ int pointsListed(const Screen& screen) {
   return static_cast<int>(screen.items(kList).size());
 }
 
-void countDown(Screen& screen, int step) {
-  screen.setText(kCountDown, numberText(leadingNumber(screen.text(kCountDown)) + step));
+// How many points the list lacks.
+void countDown(Screen& screen) {
+  screen.setText(kCountDown, numberText(leadingNumber(screen.text(kCount)) - pointsListed(screen)));
 }
 
 bool allBoxesFilled(const Screen& screen) {
@@ -60,28 +60,25 @@ bool allBoxesFilled(const Screen& screen) {
 
 void changeCount(NoticeForm& form, std::string_view control) {
   Screen& screen = form.screen;
-  screen.setText(kCountDown, numberText(leadingNumber(screen.text(control)) - pointsListed(screen)));
-  if (screen.isEmpty(control)) {
-    // While the user types, an empty box is on its way to another number, and the points stay.
-    if (!screen.byUser) lockTestPoints(screen, true);
-  } else if (isAcceptable(screen, control, form.work.host)) {
-    lockTestPoints(screen, false);
-  }
+  countDown(screen);
+  // An empty box is on its way to another number, and the points stay.
+  if (!screen.isEmpty(control) && isAcceptable(screen, control)) lockTestPoints(screen, false);
 }
 
 void leaveCount(NoticeForm& form, std::string_view control) {
   Screen& screen = form.screen;
   const bool isEmpty = screen.isEmpty(control);
   lockTestPoints(screen, isEmpty);
+  countDown(screen);
   if (isEmpty) return;
-  screen.setEnabled("Combo_4B_Ctry", false);
+  // A country that is still to be chosen can be.
+  if (!screen.isEmpty("Combo_4B_Ctry")) screen.setEnabled("Combo_4B_Ctry", false);
   screen.setFocus("Txt_LMZ04_Deg_Long");
 }
 
 void changeCoordinate(NoticeForm& form, std::string_view control) {
   Screen& screen = form.screen;
-  if (screen.isEmpty(control) || !isAcceptable(screen, control, form.work.host)) return;
-  const bool complete = allBoxesFilled(screen);
+  const bool complete = allBoxesFilled(screen) && isAcceptable(screen, control);
   screen.setEnabled("Button_Add_Coordinates", complete);
   if (!complete) return;
   screen.setEnabled("Button_Ins_Coordinates", true);
@@ -155,7 +152,7 @@ void takeOutModified(NoticeForm& form) {
   Screen& screen = form.screen;
   screen.removeItem(kList, form.selectedPointIdx);
   screen.setVisible({kCountDown, "Lbl_CountDownTP"}, true);
-  countDown(screen, 1);
+  countDown(screen);
 }
 
 void enterPoint(NoticeForm& form) {
@@ -166,7 +163,7 @@ void enterPoint(NoticeForm& form) {
   if (!mayEnter(form, texts, item)) return;
   const int place = form.pointEditMode == kAddPoint ? pointsListed(screen) : form.selectedPointIdx;
   screen.insertItem(kList, place, item);
-  countDown(screen, -1);
+  countDown(screen);
   clearCoordinates(form, {});
   screen.setEnabled("Button_View", true);
   screen.setEnabled("Button_ClearAll_Coordinates", true);
@@ -196,9 +193,8 @@ void pickPoint(NoticeForm& form, std::string_view control) {
 void deletePoint(NoticeForm& form, std::string_view button) {
   Screen& screen = form.screen;
   screen.removeItem(kList, form.selectedPointIdx);
-  countDown(screen, 1);
+  countDown(screen);
   clearCoordinates(form, button);
-  form.pointEditMode = kAddPoint;
   screen.setEnabled("Button_View", pointsListed(screen) > 0);
 }
 
@@ -212,7 +208,6 @@ void clearAllPoints(NoticeForm& form, std::string_view button) {
 
 void viewContour(NoticeForm& form, std::string_view /*button*/) {
   NtcRec ntc;
-  resetNtc(ntc);
   readContourFromScreen(ntc, form.screen, form.work.host);
   form.work.dialogs.ContourDetailFrm(ntc);
 }

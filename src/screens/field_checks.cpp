@@ -104,7 +104,7 @@ bool mayLeaveField(NoticeForm& form, std::string_view control) {
   return true;
 }
 
-bool isAcceptable(const Screen& screen, std::string_view control, const Host& /*host*/) {
+bool isAcceptable(const Screen& screen, std::string_view control) {
   std::string detail;
   return findRefusal(screen, control, detail) == nullptr;
 }

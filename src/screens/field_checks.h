@@ -3,7 +3,6 @@
 
 #include <string_view>
 
-#include "platform/host.h"
 #include "screens/notice_form.h"
 
 namespace zamo {
@@ -13,6 +12,6 @@ namespace zamo {
 bool mayLeaveField(NoticeForm& form, std::string_view control);
 
 // Whether the field's value would be accepted, without a word. A field without a check is always fine.
-bool isAcceptable(const Screen& screen, std::string_view control, const Host& host);
+bool isAcceptable(const Screen& screen, std::string_view control);
 
 }  // namespace zamo

@@ -90,4 +90,10 @@ struct NoticeForm {
   std::function<void()> close = [] {};
 };
 
+// Only what the user chooses tells whether something stands on the screen, and not a notice that a button of
+// theirs brings to it.
+inline void noteBlank(NoticeForm& form, bool isBlank) {
+  if (form.screen.byUser && !form.screen.filling) form.work.state.screenIsBlank = isBlank;
+}
+
 }  // namespace zamo

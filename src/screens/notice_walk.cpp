@@ -3,10 +3,8 @@
 #include <utility>
 
 #include "database/read_notice.h"
-#include "model/ntc_reset.h"
 #include "platform/code_page.h"
 #include "screens/control_table.h"
-#include "screens/coordination_lists.h"
 #include "screens/form_events.h"
 #include "screens/screen_mapping.h"
 #include "screens/visibility.h"
@@ -52,7 +50,7 @@ bool isLive(const RunState& run, std::int32_t idx) {
 }
 
 bool isInList(const RunState& run, std::int32_t idx) {
-  return idx >= 0 && idx < run.NtcCount && static_cast<std::size_t>(idx) < run.IndexList.size();
+  return idx >= 0 && idx < run.NtcCount && std::cmp_less(idx, run.IndexList.size());
 }
 
 bool hasLiveEntry(const RunState& run, std::int32_t idx, std::int32_t step) {
@@ -65,10 +63,8 @@ bool hasLiveEntry(const RunState& run, std::int32_t idx, std::int32_t step) {
 
 NtcRec readNotice(Workplace& work, std::int32_t key, bool isContour) {
   NtcRec ntc;
-  resetNtc(ntc);
   const auto read = isContour ? readContourNtcFromDB : readNtcFromDB;
   if (!read(work.host, key, ntc, *work.run.DbConn)) return {};
-  if (isContour) ntc.t_notice_type = "GA1";
   return ntc;
 }
 
@@ -94,10 +90,7 @@ class Showing {
   explicit Showing(Workplace& work) : work_(work) { work.isShowing = true; }
   Showing(const Showing&) = delete;
   Showing& operator=(const Showing&) = delete;
-  ~Showing() {
-    work_.isShowing = false;
-    work_.next.reset();
-  }
+  ~Showing() { work_.isShowing = false; }
 
  private:
   Workplace& work_;
@@ -170,6 +163,10 @@ void showAgain(NoticeForm& form) {
   bringToForm(form, key, ntc);
 }
 
+void markDeleted(RunState& run) {
+  if (isInList(run, run.IndexPos)) run.IndexList[static_cast<std::size_t>(run.IndexPos)] = kDeletedKey;
+}
+
 void showNeighbourAfterDelete(NoticeForm& form) {
   const RunState& run = form.work.run;
   if (hasNtcFrom(run, run.IndexPos + 1)) {
@@ -202,7 +199,6 @@ void setWalkButtons(NoticeForm& form) {
 void loadForm(NoticeForm& form) {
   makeControls(form.screen);
   setNtcScreenTitle(form.screen);
-  if (form.screen.has("ListAdmSel")) resetCoordinationLists(form.screen);
   connectEvents(form);
   applyDefaultVisibility(form.screen);
   setWalkButtons(form);

@@ -33,6 +33,9 @@ void openNtcFromGrid(Workplace& work, std::int32_t key, std::int32_t idx, std::s
 // Brings the notice at a place of the selection to the form, or closes the form and goes on in another one.
 void showNtcAt(NoticeForm& form, std::int32_t idx, int direction);
 
+// The entry at IndexPos is passed over from now on.
+void markDeleted(RunState& run);
+
 // The notice behind the one at IndexPos, or else the one before it; the form closes when there is neither.
 void showNeighbourAfterDelete(NoticeForm& form);
 

@@ -18,13 +18,10 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <exception>
-#include <new>
 #include <optional>
 #include <set>
 #include <utility>
 
-#include "platform/run_time_error.h"
 #include "screens/control_table.h"
 #include "screens/field_checks.h"
 #include "screens/flow_layout.h"
@@ -42,9 +39,6 @@ constexpr int kWidthOfPages = 1180;
 constexpr int kWidthOfOnePage = 700;
 // Room for a window's frame and a task bar on the smallest displays.
 constexpr QSize kAroundWindow(12, 48);
-
-constexpr int kOutOfMemory = 7;
-constexpr int kInternalError = 51;
 
 constexpr std::string_view kCloseButton = "Button_Reset";
 
@@ -368,21 +362,10 @@ void NoticeWindow::press(const std::string& name) {
 }
 
 void NoticeWindow::act(const std::string& name, const std::function<void(Screen&)>& action) {
-  const Host& host = form_.work.host;
-  const auto fail = [&host, &name](int number, std::string_view description) {
-    host.setHourglass(false);
-    showRunTimeError(host, number, name, description);
-  };
-  try {
+  runGuarded(form_.work.host, name, [this, &action] {
     const UsersHand hand(form_.screen);
     action(form_.screen);
-  } catch (const RunTimeError& error) {
-    fail(error.number, error.text);
-  } catch (const std::bad_alloc&) {
-    fail(kOutOfMemory, "Out of memory");
-  } catch (const std::exception& error) {
-    fail(kInternalError, error.what());
-  }
+  });
   showControl(form_.screen.at(name), *widget(name));
 }
 
@@ -448,6 +431,8 @@ void NoticeWindow::focus(const std::string& name) {
   QWidget* const wanted = widget(name);
   if (wanted == nullptr) return;
   if (!leaving_) return focusNow(*wanted);
+  // Who goes back with Shift+Tab isn't sent forward again.
+  if ((QGuiApplication::keyboardModifiers() & Qt::ShiftModifier) != 0) return;
   // The key or the click that leaves the field still has its own way to go.
   QMetaObject::invokeMethod(
       this, [this, wanted] { focusNow(*wanted); }, Qt::QueuedConnection);
@@ -455,7 +440,7 @@ void NoticeWindow::focus(const std::string& name) {
 
 void NoticeWindow::focusNow(QWidget& wanted) {
   bringToView(wanted);
-  wanted.setFocus(Qt::OtherFocusReason);
+  wanted.setFocus(Qt::TabFocusReason);  // which selects what stands in a field
 }
 
 void NoticeWindow::bringToView(QWidget& part) {

@@ -1,10 +1,12 @@
 #include "screens/save_flows.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "database/delete_notice.h"
 #include "database/lookups.h"
 #include "database/update_notice.h"
 #include "database/write_notice.h"
-#include "model/ntc_reset.h"
 #include "platform/message.h"
 #include "platform/text.h"
 #include "screens/form_events.h"
@@ -69,17 +71,6 @@ constexpr std::size_t kLongestIdentifier = 20;
 // The forms whose agency and address code are checked.
 constexpr FormSet kNotifyingForms = kAssignmentForms | formBit(kTB2);
 
-class Hourglass {
- public:
-  explicit Hourglass(const Host& host) : host_(host) { host_.setHourglass(true); }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-  ~Hourglass() { host_.setHourglass(false); }
-
- private:
-  const Host& host_;
-};
-
 bool isForm(const NoticeForm& form, FormSet forms) {
   return isOneOf(form.screen.code(), forms);
 }
@@ -113,8 +104,8 @@ bool passesSaveRules(const NoticeForm& form, std::string& rules) {
       return false;
     }
   }
-  if (rules.empty() || isForm(form, kContourForm | kTbForms)) return true;
-  return host.askYesNo({kSaveInvalid.filled({rules}), "Save Invalid Notice"});
+  // A contour or a TB notice has one list, and doesn't come this far with a line of it.
+  return rules.empty() || host.askYesNo({kSaveInvalid.filled({rules}), "Save Invalid Notice"});
 }
 
 // A TB2 without hours is one for the whole day.
@@ -126,7 +117,6 @@ void setDefaultHours(Screen& screen) {
 NtcRec readScreen(NoticeForm& form) {
   if (isForm(form, formBit(kTB2))) setDefaultHours(form.screen);
   NtcRec ntc;
-  resetNtc(ntc);
   readForm(ntc, form.screen, form.work.host);
   return ntc;
 }
@@ -160,7 +150,7 @@ bool replaceNotice(NoticeForm& form, NtcRec& ntc) {
   if (!writeNtcToDB(work.host, ntc, *run.DbConn, outcome, false)) return false;
   deleteNtcFromDB(work.host, run.SelKey, *run.DbConn);
   appendKeyToList(run.IndexList, run.NtcCount, ntc.vornakey);
-  run.IndexList.at(static_cast<std::size_t>(run.IndexPos)) = kDeletedKey;
+  markDeleted(run);
   showNeighbourAfterDelete(form);
   return true;
 }
@@ -172,8 +162,7 @@ void storeUpdate(NoticeForm& form, NtcRec& ntc) {
                                   : updateNtcInDB(work.host, ntc, work.run.SelKey, *work.run.DbConn);
   showBox(form, (updated ? kUpdated : kUpdateFailed).filled({}), "Save Notice");
   // Of a notice that was replaced the screen shows the neighbour by now.
-  if (updated && isReplaced) return;
-  fillForm(ntc, form.screen);
+  if (!isReplaced) fillForm(ntc, form.screen);
 }
 
 const IdentifierRow& identifierOf(const NoticeForm& form) {
@@ -198,14 +187,20 @@ bool askIdentifier(const NoticeForm& form, NtcRec& ntc) {
   return true;
 }
 
+// What is beyond the numbers of contours is no contour's number either when it is cut to them.
+std::int32_t contourNumber(std::string_view id) {
+  using Numbers = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int32_t>(std::clamp<double>(leadingNumber(id), Numbers::min(), Numbers::max()));
+}
+
 // A contour of this identity that was notified. One that is only named by an allotment is there to be filled.
 bool isNotified(const NoticeForm& form, const NtcRec& ntc, FoundContour& found) {
   const Workplace& work = form.work;
   const ContourRec& contour = ntc.digital.contour;
   if (contourPointCountMatches(work.host, contour.t_contour_id, ntc.t_ctry, ntc.t_adm, *work.run.DbConn))
     return true;
-  found = findContour(work.host, static_cast<std::int32_t>(leadingNumber(contour.t_contour_id)), ntc.t_ctry,
-                      ntc.t_adm, contour.t_nb_test_pts, *work.run.DbConn);
+  found = findContour(work.host, contourNumber(contour.t_contour_id), ntc.t_ctry, ntc.t_adm,
+                      contour.t_nb_test_pts, *work.run.DbConn);
   return found.hasPoints || found.problem;
 }
 
@@ -231,19 +226,16 @@ void appendKey(const NoticeForm& form, const NtcRec& ntc, const FoundContour& fo
 }
 
 void storeNew(NoticeForm& form, NtcRec& ntc, const FoundContour& found) {
-  Workplace& work = form.work;
+  const Workplace& work = form.work;
   ContourOutcome outcome;
-  const bool added = writeNtcToDB(work.host, ntc, *work.run.DbConn, outcome, false);
-  if (added) {
-    appendKey(form, ntc, found);
-    setWalkButtons(form);
-  }
-  showBox(form, (added ? kAdded : kAddFailed).filled({}), "Save Notice");
-  if (!work.state.ntcFromOtherNotice) {
-    showAgain(form);
-  } else if (added) {
-    closeNtcScreen(form);
-  }
+  // What the user entered stays on the screen when it could not be stored.
+  if (!writeNtcToDB(work.host, ntc, *work.run.DbConn, outcome, false))
+    return showBox(form, kAddFailed.filled({}), "Save Notice");
+  appendKey(form, ntc, found);
+  setWalkButtons(form);
+  showBox(form, kAdded.filled({}), "Save Notice");
+  if (work.state.ntcFromOtherNotice) return closeNtcScreen(form);
+  showAgain(form);
 }
 
 }  // namespace
@@ -297,8 +289,8 @@ void addNotice(NoticeForm& form) {
   if (!host.askYesNo({question.filled({}), "Save Notice"})) return;
   std::string errs;
   const bool good = checkRecord(form, ntc, errs, placesOfLevel(form), Agencies::left);
-  const bool userAgreed = !rules.empty() && !isForm(form, kContourForm);
-  if (!good && !userAgreed) return showBox(form, kInvalid.filled({errs}), "Error", BoxIcon::exclamation);
+  // What the save rules had to say the user has agreed to.
+  if (!good && rules.empty()) return showBox(form, kInvalid.filled({errs}), "Error", BoxIcon::exclamation);
   FoundContour found;
   if (isDuplicate(form, ntc, found)) return;
   storeNew(form, ntc, found);
@@ -310,7 +302,7 @@ void deleteNotice(NoticeForm& form) {
   if (!work.host.askYesNo({kAskDelete.filled({}), "Delete Notice"})) return;
   const auto remove = isForm(form, kContourForm) ? deleteContourFromDB : deleteNtcFromDB;
   remove(work.host, run.SelKey, *run.DbConn);
-  run.IndexList.at(static_cast<std::size_t>(run.IndexPos)) = kDeletedKey;
+  markDeleted(run);
   form.work.state.ntcListChanged = true;
   showNeighbourAfterDelete(form);
 }

@@ -146,11 +146,11 @@ void Screen::removeItem(std::string_view name, int index) {
   changed(control);
 }
 
-void Screen::raise(Event event, std::string_view name) {
+void Screen::raise(Event event, std::string_view name) const {
   raised(event, at(name).name);
 }
 
-void Screen::setFocus(std::string_view name) {
+void Screen::setFocus(std::string_view name) const {
   focusWanted(at(name).name);
 }
 

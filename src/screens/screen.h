@@ -114,8 +114,8 @@ class Screen {
   void clearItems(std::string_view name) { setItems(name, {}); }
 
   // Raises an event of a control as the user's hand does: choosing an item again is a click too.
-  void raise(Event event, std::string_view name);
-  void setFocus(std::string_view name);
+  void raise(Event event, std::string_view name) const;
+  void setFocus(std::string_view name) const;
   void redrawAll() const;
 
   // While a stored notice is brought to the screen: rules that clear a box leave what is stored to be seen.
@@ -136,6 +136,21 @@ class Screen {
   FormCode code_;
   std::string title_;
   std::map<std::string, Control, std::less<>> controls_;
+};
+
+// Whether a stored notice is being brought to the screen, as long as this lives.
+class Filling {
+ public:
+  Filling(Screen& screen, bool filling) : screen_(screen), before_(screen.filling) {
+    screen_.filling = filling;
+  }
+  Filling(const Filling&) = delete;
+  Filling& operator=(const Filling&) = delete;
+  ~Filling() { screen_.filling = before_; }
+
+ private:
+  Screen& screen_;
+  bool before_;
 };
 
 }  // namespace zamo

@@ -17,19 +17,6 @@ namespace {
 
 constexpr double kMostTestPoints = 32767;
 
-// The rules know, for as long as it lives, that what they meet is stored.
-class Filling {
- public:
-  explicit Filling(Screen& screen) : screen_(screen), before_(std::exchange(screen.filling, true)) {}
-  Filling(const Filling&) = delete;
-  Filling& operator=(const Filling&) = delete;
-  ~Filling() { screen_.filling = before_; }
-
- private:
-  Screen& screen_;
-  bool before_;
-};
-
 // What the type of a notice says of it.
 struct FormConstants {
   FormCode code;
@@ -172,6 +159,11 @@ void fillAssignment(const NtcRec& ntc, Screen& screen, FormCode code) {
   fillStage(ntc, screen, code, Stage::station);
   fillGrids(ntc, screen);
   fillStage(ntc, screen, code, Stage::system);
+  // Blank hours are those of a whole day, but out of sight they would be notified where none may be.
+  if (screen.isSet("Opt_Art4") && !ntc.op_hours.present) {
+    screen.setText("Txt_10B_Ophhfr", "");
+    screen.setText("Txt_10B_Ophhto", "");
+  }
 }
 
 // Of a target only the boxes that carry it.
@@ -389,7 +381,7 @@ std::string pointItem(const PointRec& point) {
 }
 
 void fillNtcScreen(NtcRec& ntc, Screen& screen, FormCode code) {
-  const Filling filling(screen);
+  const Filling filling(screen, true);
   fillByForm(ntc, screen, code);
   settleAfterFill(screen);
   // Behind all rules, which know two ways to tell a target but not which one is stored.
@@ -398,7 +390,7 @@ void fillNtcScreen(NtcRec& ntc, Screen& screen, FormCode code) {
 }
 
 void fillContourScreen(const NtcRec& ntc, Screen& screen) {
-  const Filling filling(screen);
+  const Filling filling(screen, true);
   screen.clearItems("ListBox_LMZ04_Coordinates");
   fillStage(ntc, screen, kGA1SubAllot, Stage::contourOwner);
   const OptionRow* intent = rowOfValue(kActions, kGA1SubAllot, ntc.t_action);

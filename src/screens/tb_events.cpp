@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "platform/message.h"
@@ -14,10 +16,11 @@ const Message kNoTb2("box \"Notice creation Error\": TB2 of a television assignm
 // clang-format on
 
 // What a TB2 target that isn't named by its identifier takes.
-constexpr std::string_view kTargetElements[] = {
-    "LblOr",          "Lbl_FreqUnit",    "lbl_freqAssgn",   "Lbl_4C_Long",     "Lbl_4C_Lat",
-    "Txt_TrgFreq",    "Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_EW",
-    "Txt_4C_Deg_Lat", "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
+constexpr std::string_view kTargetBoxes[] = {"Txt_TrgFreq",     "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
+                                             "Txt_4C_Sec_Long", "Txt_4C_EW",       "Txt_4C_Deg_Lat",
+                                             "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
+constexpr std::string_view kTargetLabels[] = {"LblOr", "Lbl_FreqUnit", "lbl_freqAssgn", "Lbl_4C_Long",
+                                              "Lbl_4C_Lat"};
 
 // What makes no sense on a form whose notice isn't stored yet.
 constexpr std::string_view kOfStoredNotices[] = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
@@ -25,24 +28,51 @@ constexpr std::string_view kOfStoredNotices[] = {"Txt_Ntc_Number", "Lbl_Ntc_Numb
 
 void leaveTarget(NoticeForm& form, std::string_view control) {
   const bool isEmpty = form.screen.isEmpty(control);
-  for (const std::string_view element : kTargetElements) form.screen.setVisible(element, isEmpty);
+  for (const std::string_view box : kTargetBoxes) form.screen.setVisible(box, isEmpty);
+  for (const std::string_view label : kTargetLabels) form.screen.setVisible(label, isEmpty);
   if (!isEmpty) form.work.state.screenIsBlank = false;
 }
 
+// A stored frequency and place hide the identifier; once they are emptied the user may tell it instead.
+void leaveTargetBox(NoticeForm& form, std::string_view /*control*/) {
+  Screen& screen = form.screen;
+  if (std::all_of(std::begin(kTargetBoxes), std::end(kTargetBoxes),
+                  [&screen](std::string_view box) { return screen.isEmpty(box); })) {
+    screen.setVisible({"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"}, true);
+  }
+}
+
+// clang-format off
 constexpr LeaveRow kLeaves[] = {
     {formBit(kTB2), "Txt_TrgAdmRefID", leaveTarget},
+    {formBit(kTB2), "Txt_TrgFreq",     leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_Deg_Long", leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_Min_Long", leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_Sec_Long", leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_EW",       leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_Deg_Lat",  leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_Min_Lat",  leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_Sec_Lat",  leaveTargetBox},
+    {formBit(kTB2), "Txt_4C_NS",       leaveTargetBox},
 };
+// clang-format on
 
-// While it lives, a TB form belongs to another notice.
+// While it lives, a TB form belongs to another notice, whose screen is the same afterwards.
 class FromOtherNotice {
  public:
-  explicit FromOtherNotice(ScreenState& state) : state_(state) { state_.ntcFromOtherNotice = true; }
+  explicit FromOtherNotice(ScreenState& state) : state_(state), wasBlank_(state.screenIsBlank) {
+    state_.ntcFromOtherNotice = true;
+  }
   FromOtherNotice(const FromOtherNotice&) = delete;
   FromOtherNotice& operator=(const FromOtherNotice&) = delete;
-  ~FromOtherNotice() { state_.ntcFromOtherNotice = false; }
+  ~FromOtherNotice() {
+    state_.ntcFromOtherNotice = false;
+    state_.screenIsBlank = wasBlank_;
+  }
 
  private:
   ScreenState& state_;
+  bool wasBlank_;
 };
 
 void copyText(const Screen& from, std::string_view control, Screen& to, std::string_view toControl) {
@@ -51,7 +81,6 @@ void copyText(const Screen& from, std::string_view control, Screen& to, std::str
 
 void fillTB5(const Screen& from, Screen& to) {
   copyText(from, "Txt_AdmRefID", to, "Txt_TrgAdmRefID");
-  to.setOption("OptInt_WDraw");
   if (!isOneOf(from.code(), kAssignmentForms)) return to.setOption("Opt_Art4");
   copyText(from, "Txt_EmailAddr", to, "Txt_EmailAddr");
   for (const std::string_view article : {"Opt_Art4", "Opt_Art5"}) {

@@ -13,21 +13,6 @@
 namespace zamo {
 namespace {
 
-// Sets whether a stored notice is being brought to the screen, for as long as it lives.
-class Filling {
- public:
-  Filling(Screen& screen, bool filling) : screen_(screen), before_(screen.filling) {
-    screen_.filling = filling;
-  }
-  Filling(const Filling&) = delete;
-  Filling& operator=(const Filling&) = delete;
-  ~Filling() { screen_.filling = before_; }
-
- private:
-  Screen& screen_;
-  bool before_;
-};
-
 // What is stored stays to be seen, even where no rule wants it.
 bool holdsStored(const Screen& screen, std::string_view field) {
   return screen.filling && !screen.isEmpty(field);
