@@ -32,7 +32,7 @@ void shownText(sqlite3_context* context, int /*count*/, sqlite3_value** values) 
 // is plain.
 std::string absolutePath(const std::string& path) {
   std::error_code failed;
-  const std::string absolute = std::filesystem::absolute(path, failed).string();
+  std::string absolute = std::filesystem::absolute(path, failed).string();
   if (failed || absolute.empty()) throw RunTimeError{SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN)};
   return absolute;
 }

@@ -87,14 +87,16 @@ bool writeSelection(const Host& host, WrittenFile& file, std::string_view sql, b
 
 bool writeFile(const Host& host, WrittenFile& file, std::string_view noticeSql, std::string_view contourSql,
                Connection& connection, std::int32_t& total) {
-  const ReadingOneState state(connection);
-  if (!writeSelection(host, file, noticeSql, false, connection, total)) return false;
-  const std::int32_t notices = total;
-  if (!writeSelection(host, file, contourSql, true, connection, total)) return false;
-  if (total > notices) return true;
-  writeLine(file.stream, makeTailSection(total));
-  file.stream.close();
-  return true;
+  return guarded(host, "exportDBToTxt", [&] {
+    const ReadingOneState state(connection);
+    if (!writeSelection(host, file, noticeSql, false, connection, total)) return false;
+    const std::int32_t notices = total;
+    if (!writeSelection(host, file, contourSql, true, connection, total)) return false;
+    if (total > notices) return true;
+    writeLine(file.stream, makeTailSection(total));
+    file.stream.close();
+    return true;
+  });
 }
 
 // Whether the file may take the notice; the first one decides. A refusal is told.

@@ -82,12 +82,23 @@ bool countPoints(const Host& host, double expected, std::int32_t contourkey, Con
   });
 }
 
-std::vector<std::int32_t> keysOf(std::string_view sql, std::string_view field, Connection& connection) {
+std::vector<std::int32_t> keysOf(std::string_view sql, std::string_view field, Connection& connection,
+                                 const RowTaker& take) {
   RowCursor rows(sql, connection);
   const std::size_t column = rows.columnOf(field);
   std::vector<std::int32_t> keys;
-  while (rows.next()) keys.push_back(toKey(rows.value(column)));
+  while (rows.next()) {
+    keys.push_back(toKey(rows.value(column)));
+    if (take) take(rows);
+  }
   return keys;
+}
+
+std::int64_t countRows(std::string_view sql, Connection& connection) {
+  RowCursor rows(sql, connection);
+  std::int64_t count = 0;
+  while (rows.next()) ++count;
+  return count;
 }
 
 // A selection without a row leaves the list as it is; the count tells of it.
@@ -222,24 +233,22 @@ std::string getNoticeType(const Host& host, std::int32_t key, Connection& connec
 }
 
 bool getVornaKeyList(const Host& host, std::vector<std::int32_t>& list, std::string_view sql,
-                     std::int32_t& count, Connection& connection) {
+                     std::int32_t& count, Connection& connection, const RowTaker& take) {
   return guarded(host, "getVornaKeyList",
-                 [&] { return takeKeys(keysOf(sql, "vornakey", connection), list, count); });
+                 [&] { return takeKeys(keysOf(sql, "vornakey", connection, take), list, count); });
 }
 
 bool getContourKeyList(const Host& host, std::vector<std::int32_t>& list, std::int32_t& count,
-                       std::string_view sql, Connection& connection) {
+                       std::string_view sql, Connection& connection, const RowTaker& take) {
   return guarded(host, "getContourKeyList",
-                 [&] { return takeKeys(keysOf(sql, "contourkey", connection), list, count); });
+                 [&] { return takeKeys(keysOf(sql, "contourkey", connection, take), list, count); });
 }
 
 std::int64_t countSelectedRecords(const Host& host, Connection& connection, std::string_view firstSql,
                                   std::string_view secondSql) {
   return guarded(host, "countSelectedRecords", [&] {
-    Recordset rows(firstSql, connection);
-    const std::int64_t first = rows.RecordCount();
-    rows = Recordset(secondSql, connection);
-    return first + rows.RecordCount();
+    const std::int64_t first = countRows(firstSql, connection);
+    return first + countRows(secondSql, connection);
   });
 }
 

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "database/connection.h"
+#include "database/row_cursor.h"
 #include "model/ntc_rec.h"
 #include "platform/host.h"
 
@@ -52,11 +54,14 @@ bool getTargetElements(const Host& host, std::int32_t key, std::string& frequenc
 // As it is stored; empty when no row has the key.
 std::string getNoticeType(const Host& host, std::int32_t key, Connection& connection);
 
+// What else is to become of the rows that a list of keys is taken from: called on each of them.
+using RowTaker = std::function<void(const RowCursor& row)>;
+
 // The keys of a selection, in the order of its statement.
 bool getVornaKeyList(const Host& host, std::vector<std::int32_t>& list, std::string_view sql,
-                     std::int32_t& count, Connection& connection);
+                     std::int32_t& count, Connection& connection, const RowTaker& take = {});
 bool getContourKeyList(const Host& host, std::vector<std::int32_t>& list, std::int32_t& count,
-                       std::string_view sql, Connection& connection);
+                       std::string_view sql, Connection& connection, const RowTaker& take = {});
 
 // The rows of both statements together.
 std::int64_t countSelectedRecords(const Host& host, Connection& connection, std::string_view firstSql,

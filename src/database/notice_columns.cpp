@@ -20,8 +20,8 @@ constexpr TextMember allotText = textAt<&NtcRec::digital, &DigitalRec::allot, Me
 template <auto Member>
 constexpr TextMember contourText = textAt<&NtcRec::digital, &DigitalRec::contour, Member>;
 
-constexpr const CoordinateField* kLongitude = &kCoordinateFields[0];
-constexpr const CoordinateField* kLatitude = &kCoordinateFields[1];
+constexpr const CoordinateField* kLongitude = kCoordinateFields.data();
+constexpr const CoordinateField* kLatitude = kLongitude + 1;
 static_assert(kLongitude->key == "t_long" && kLatitude->key == "t_lat");
 
 // clang-format off

@@ -260,14 +260,8 @@ void Recordset::runChange(const std::string& sql, const std::vector<Pending>& va
     }
   }
   if (rowid) sqlite3_bind_int64(statement, place + 1, *rowid);
-  const int result = sqlite3_step(statement);
-  if (result == SQLITE_DONE) {
-    sqlite3_reset(statement);
-    return;
-  }
-  const RunTimeError error = engineError(connection_->handle());
-  sqlite3_reset(statement);
-  throw error;
+  const ResetAtEnd reset(statement);
+  if (sqlite3_step(statement) != SQLITE_DONE) throw engineError(connection_->handle());
 }
 
 }  // namespace zamo

@@ -83,8 +83,10 @@ Geodesic refined(const Site& site, const S2Shape::Edge& edge, const S2Point& foo
   const double shift = std::min(length, 0.0034 * way.km);
   if (shift * shift < 1e-4 * way.km) return way;
   const auto toEnd = [&](const S2Point& end) {
-    const S2LatLng a(foot), b(end);
-    double azimuth = 0, backwards = 0;
+    const S2LatLng a(foot);
+    const S2LatLng b(end);
+    double azimuth = 0;
+    double backwards = 0;
     GeographicLib::Geodesic::WGS84().Inverse(a.lat().degrees(), a.lng().degrees(), b.lat().degrees(),
                                              b.lng().degrees(), azimuth, backwards);
     return azimuth;

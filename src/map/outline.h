@@ -8,6 +8,6 @@
 
 namespace zamo {
 
-std::vector<GzmpLine> outlineWithin(const S2Shape& country, const GzmpBox& box);
+std::vector<GzmpLine> outlineWithin(const S2Shape& country, const GzmpBox& asked);
 
 }  // namespace zamo

@@ -35,18 +35,6 @@ std::vector<std::string> valuesOf(std::string_view sql, Connection& connection) 
   return values;
 }
 
-// The busy pointer, while a button works.
-class Busy {
- public:
-  explicit Busy(const Host& host) : host_(host) { host_.setHourglass(true); }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-  ~Busy() { host_.setHourglass(false); }
-
- private:
-  const Host& host_;
-};
-
 }  // namespace
 
 QrySelectFrmKV19::QrySelectFrmKV19(const Host& host, RunState& run, QWidget* parent)
@@ -119,7 +107,7 @@ void QrySelectFrmKV19::guarded(const std::function<void()>& read) {
 }
 
 void QrySelectFrmKV19::confirm() {
-  const Busy busy(host_);
+  const Hourglass busy(host_);
   QueryChoices choices = controls_->choices();
   if (!checks_->mayLeave() || !mayCompareDates(host_, choices.updated.after, choices.updated.prior)) return;
   choices.isNotice = run_.qryIsNotice;
@@ -130,7 +118,7 @@ void QrySelectFrmKV19::confirm() {
 
 // The statement is empty here, and a selection without one is of notices.
 void QrySelectFrmKV19::cancel() {
-  const Busy busy(host_);
+  const Hourglass busy(host_);
   run_.qryConfirmed = false;
   run_.qryIsNotice = true;
 }

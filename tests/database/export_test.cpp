@@ -216,6 +216,20 @@ TEST_F(AnExport, carries_nothing_from_one_notice_into_the_next) {
   EXPECT_TRUE(written().ends_with("t_remarks = the first\r\n</NOTICE>\r\n" + suppression(2, "A2") + tail(2)));
 }
 
+TEST_F(AnExport, carries_no_field_and_no_section_into_a_notice_without_it) {
+  raw.run(
+      "INSERT INTO fmtv_vorna (vornakey, adm, notice_typ, site_name, polar) VALUES "
+      "(83700001, 'F', 'GT1', 'BOURGES', 'H'), (83700002, 'F', 'GT1', NULL, NULL)");
+  raw.run("INSERT INTO fmtv_ant_hgt (vornakey, azm, eff_hgt) VALUES (83700001, 0, 150)");
+  EXPECT_TRUE(exported());
+  EXPECT_EQ(written(), kHeader + kHeadOfF +
+                           "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = GT1\r\nt_site_name = BOURGES\r\n"
+                           "t_polar = H\r\n<ANT_HGT>\r\nt_eff_hgt@azm0 = 150\r\n</ANT_HGT>\r\n</NOTICE>\r\n"
+                           "<NOTICE>\r\nNotice No = 2\r\nt_notice_type = GT1\r\n\r\n</NOTICE>\r\n" +
+                           tail(2));
+  EXPECT_THAT(script.boxes, IsEmpty());
+}
+
 TEST_F(AnExport, of_nothing_leaves_the_five_lines_and_says_so) {
   EXPECT_FALSE(exported());
   EXPECT_EQ(written(), kHeader);
@@ -419,6 +433,7 @@ TEST_F(AnExport, notices_a_disk_that_is_full_at_the_last_byte) {
   expectBoxes({"exportDBToTxt: Erreur 61:Disk full: " + output});
   EXPECT_EQ(run.end, ExportEnd::failed);
   EXPECT_EQ(written(), whole.substr(0, whole.size() - 1));
+  expectTold();
   {
     const FileSizeLimit limit(whole.size());
     EXPECT_TRUE(exported());

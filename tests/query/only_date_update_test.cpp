@@ -170,5 +170,15 @@ TEST_F(DateDialog, closes_without_a_filter_whatever_stands_in_the_field) {
   expectCloses([this] { form.close(); });
 }
 
+TEST_F(DateDialog, left_by_cancel_forgets_the_filter_that_ok_made) {
+  click("ButtonOK");
+  EXPECT_EQ(form.filter(), "(d_updated >= #3/7/2026#)");
+  form.show();
+  (void)QTest::qWaitForWindowActive(&form);
+  click("ButtonCancel");
+  EXPECT_FALSE(form.isVisible());
+  EXPECT_EQ(form.filter(), "");
+}
+
 }  // namespace
 }  // namespace zamo

@@ -83,6 +83,15 @@ TEST_P(QueryFormLists, add_all_takes_the_place_of_what_was_chosen) {
   EXPECT_TRUE(isEnabled(names.add));
 }
 
+TEST_P(QueryFormLists, add_all_leaves_the_place_that_del_deletes) {
+  doubleClickItem(names.dataList, "SUI");
+  clickItem(names.selectList, "SUI");
+  click(names.addAll);
+  EXPECT_TRUE(isEnabled(names.del));
+  click(names.del);
+  EXPECT_EQ(items(names.selectList), (Texts{"F", "SUI"}));
+}
+
 TEST_P(QueryFormLists, add_all_filters_nothing) {
   click(names.addAll);
   EXPECT_EQ(whereOnOk(), "");
