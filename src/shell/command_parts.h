@@ -1,8 +1,9 @@
-// What the commands have in common: the status line and the hourglass.
+// What the commands have in common: the status line, and a database to work on.
 #pragma once
 
 #include <string_view>
 
+#include "platform/run_time_error.h"
 #include "shell/shell.h"
 
 namespace zamo {
@@ -15,16 +16,9 @@ inline void showStatus(Shell& shell, std::string_view text) {
   shell.host.repaint();
 }
 
-// The pointer is the hourglass as long as this lives.
-class Hourglass {
- public:
-  explicit Hourglass(const Host& host) : host_(host) { host_.setHourglass(true); }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-  ~Hourglass() { host_.setHourglass(false); }
-
- private:
-  const Host& host_;
-};
+// A load that fails can leave the commands on a database enabled without one; they throw this RunTimeError.
+inline void requireDatabase(const Shell& shell) {
+  if (shell.run.DbConn == nullptr) throw RunTimeError{kInvalidArgument, "No database is open"};
+}
 
 }  // namespace zamo

@@ -21,10 +21,12 @@ std::string outputName(const std::string& databasePath, const DateTime& now) {
 }  // namespace
 
 void mnuTxtDBAll(Shell& shell) {
+  requireDatabase(shell);
   exportAll(shell);
 }
 
 void mnuTxtDBUpdated(Shell& shell) {
+  requireDatabase(shell);
   const std::string condition = shell.forms.askUpdateCondition();
   if (!condition.empty()) exportUpdated(shell, condition);
 }
@@ -46,18 +48,16 @@ ExportEnd exportUpdated(Shell& shell, std::string_view condition) {
 }
 
 ExportEnd exportTextFromDb(Shell& shell, std::string_view noticeSql, std::string_view contourSql) {
+  shell.forms.detachGrid();
+  shell.run.CorrFileName = outputName(shell.run.DbFileName, shell.host.now());
+  showStatus(shell, kWriting.words());
   ExportRun exported{kWindowVersion};
-  if (shell.run.DbConn != nullptr) {
-    shell.forms.detachGrid();
-    shell.run.CorrFileName = outputName(shell.run.DbFileName, shell.host.now());
-    showStatus(shell, kWriting.words());
-    if (exportDBToTxt(shell.host, shell.run.CorrFileName, *shell.run.DbConn, exported, noticeSql, contourSql,
-                      "")) {
-      shell.host.showBox({kCompleted.filled({}), "Information", BoxIcon::information});
-      shell.host.setStatus(kCompleted.words());
-    }
-    shell.host.repaint();
+  if (exportDBToTxt(shell.host, shell.run.CorrFileName, *shell.run.DbConn, exported, noticeSql, contourSql,
+                    "")) {
+    shell.host.showBox({kCompleted.filled({}), "Information", BoxIcon::information});
+    shell.host.setStatus(kCompleted.words());
   }
+  shell.host.repaint();
   shell.host.setHourglass(false);
   return exported.end;
 }

@@ -9,7 +9,7 @@
 namespace zamo {
 
 // The menu commands: all notices, and those that meet the condition of the date dialog. Without a condition
-// the latter ends there.
+// the latter ends there. Without an open database a RunTimeError is thrown.
 void mnuTxtDBAll(Shell& shell);
 void mnuTxtDBUpdated(Shell& shell);
 
@@ -17,9 +17,8 @@ void mnuTxtDBUpdated(Shell& shell);
 ExportEnd exportAll(Shell& shell);
 ExportEnd exportUpdated(Shell& shell, std::string_view condition);
 
-// Writes what the two statements select beside the database, into the file named in CorrFileName; its name
-// holds the time of day. Without an open database nothing happens. Behind it the mouse pointer is the usual
-// one.
+// Writes what the two statements select beside the open database, into the file named in CorrFileName; its
+// name holds the time of day. Behind it the mouse pointer is the usual one.
 ExportEnd exportTextFromDb(Shell& shell, std::string_view noticeSql, std::string_view contourSql);
 
 }  // namespace zamo

@@ -14,10 +14,8 @@
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
-#include <exception>
-#include <new>
+#include <utility>
 
-#include "platform/run_time_error.h"
 #include "shell/notice_grid.h"
 #include "widgets/qt_text.h"
 
@@ -32,9 +30,6 @@ constexpr std::string_view kHint = "To check a notice file, choose File > OpenTx
 
 // The words that every status text with bad news has, and no other.
 constexpr std::string_view kBadNews = "has error";
-
-constexpr int kOutOfMemory = 7;
-constexpr int kInternalError = 51;
 
 QString nameOf(std::string_view name) {
   return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
@@ -65,11 +60,6 @@ QLabel* makeEmptyGrid() {
   return panel;
 }
 
-void showFailure(const Host& host, int number, std::string_view name, std::string_view description) {
-  host.setHourglass(false);
-  showRunTimeError(host, number, name, description);
-}
-
 }  // namespace
 
 void mnuFileExit(Shell& /*shell*/, QWidget& window) {
@@ -83,7 +73,7 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell) {
   setMinimumSize(kSmallestSize);
   resize(kUsualSize.boundedTo(screen()->availableSize()));
   shell_.draw = [this](const MainScreen& wanted) { draw(wanted); };
-  shell_.forms.bindGrid = [this] { NtcDataGrid_->bind(); };
+  shell_.forms.bindGrid = [this](GridRows rows) { NtcDataGrid_->bind(std::move(rows)); };
   shell_.forms.detachGrid = [this] {
     if (!shell_.screen.gridVisible) NtcDataGrid_->clear();
   };
@@ -228,15 +218,7 @@ void MainWindow::refresh() {
 void MainWindow::runCommand(std::string_view name, const std::function<void(Shell&, QWidget&)>& command) {
   if (running_) return;
   running_ = true;
-  try {
-    command(shell_, *this);
-  } catch (const RunTimeError& error) {
-    showFailure(shell_.host, error.number, name, error.text);
-  } catch (const std::bad_alloc&) {
-    showFailure(shell_.host, kOutOfMemory, name, "Out of memory");
-  } catch (const std::exception& error) {
-    showFailure(shell_.host, kInternalError, name, error.what());
-  }
+  runGuarded(shell_.host, name, [this, &command] { command(shell_, *this); });
   running_ = false;
   draw(shell_.screen);
   showStatus();

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "database/key_value.h"
 #include "widgets/qt_text.h"
@@ -27,13 +28,10 @@ NoticeGrid::NoticeGrid(Shell& shell) : shell_(shell) {
   setModel(&model_);
 }
 
-void NoticeGrid::bind() {
-  clear();
-  const RunState& run = shell_.run;
-  if (run.DbConn == nullptr || run.qrySql.empty()) return;
-  model_.setRows(GridRows(run.qrySql, *run.DbConn));
+void NoticeGrid::bind(GridRows rows) {
+  model_.setRows(std::move(rows));
   fitColumns();
-  setFixedColumns(fixedColumnCount(run));
+  setFixedColumns(fixedColumnCount(shell_.run));
   // Scrolled by hand: by itself it would bring the row into the middle as soon as it is shown.
   setAutoScroll(false);
   if (model_.rowCount() > 0) setCurrentIndex(model_.index(std::min(bookmark_, model_.rowCount() - 1), 0));

@@ -14,9 +14,8 @@ class NoticeGrid final : public FrozenTable {
   // Shows the selection of `shell`, which must outlive the grid.
   explicit NoticeGrid(Shell& shell);
 
-  // Reads the rows of qrySql, or none without a statement. An error of the engine is thrown as a RunTimeError
-  // and leaves no rows.
-  void bind();
+  // Takes rows of the selection. The current one is the first, or the one that openCurrent remembers.
+  void bind(GridRows rows);
 
   // Lets go of all rows.
   void clear();

@@ -44,7 +44,7 @@ QVariant NoticeGridModel::headerData(int section, Qt::Orientation orientation, i
 }
 
 QVariant NoticeGridModel::alignment(std::size_t column) const {
-  return QVariant((rows_.holdsNumbers(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  return {(rows_.holdsNumbers(column) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter};
 }
 
 }  // namespace zamo

@@ -1,6 +1,7 @@
 #include "shell/notice_query.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "database/lookups.h"
 #include "platform/code_page.h"
@@ -71,14 +72,22 @@ void chooseAndOpen(Shell& shell) {
   if (run.qryConfirmed) showStatus(shell, kOpened.filled({countText(shell)}));
 }
 
-// The keys of the selection, in the order of its statement. False after an error, which the user was shown.
-bool readKeys(Shell& shell) {
+// The selection: its keys, in the order of its statement, and what the grid shows of it. False after an
+// error, which the user was shown.
+bool readSelection(Shell& shell, GridRows& rows) {
   RunState& run = shell.run;
   run.GridListsContours = !run.qryIsNotice;
   run.NtcCount = 0;
+  const RowTaker take = [&rows](const RowCursor& row) { rows.add(row); };
   return run.qryIsNotice
-             ? getVornaKeyList(shell.host, run.IndexList, run.qrySql, run.NtcCount, *run.DbConn)
-             : getContourKeyList(shell.host, run.IndexList, run.NtcCount, run.qrySql, *run.DbConn);
+             ? getVornaKeyList(shell.host, run.IndexList, run.qrySql, run.NtcCount, *run.DbConn, take)
+             : getContourKeyList(shell.host, run.IndexList, run.NtcCount, run.qrySql, *run.DbConn, take);
+}
+
+void showGrid(Shell& shell, GridRows rows) {
+  shell.forms.bindGrid(std::move(rows));
+  shell.screen.gridVisible = true;
+  shell.draw(shell.screen);
 }
 
 }  // namespace
@@ -107,9 +116,11 @@ void mnuFileOpenDB(Shell& shell) {
 }
 
 void mnuQueryNew(Shell& shell) {
+  requireDatabase(shell);
+  // While it is in sight, so that it keeps its rows: after Cancel it is as it was.
+  if (shell.screen.gridVisible) detachNoticeGrid(shell);
   shell.screen.gridVisible = false;
   shell.screen.statusVisible = false;
-  detachNoticeGrid(shell);
   shell.draw(shell.screen);
   runQuery(shell);
 }
@@ -125,16 +136,21 @@ void runQuery(Shell& shell) {
   }
   if (run.qrySql.empty()) return;
   showStatus(shell, kRetrieving.words());
+  GridRows rows;
   // The grid would only be refused the same statement once more.
-  if (!readKeys(shell)) run.qrySql.clear();
-  bindNoticeGrid(shell);
+  if (!readSelection(shell, rows)) run.qrySql.clear();
+  if (run.NtcCount > 0) {
+    showGrid(shell, std::move(rows));
+  } else {
+    bindNoticeGrid(shell);
+  }
   showStatus(shell, kRecords.filled({countText(shell)}));
 }
 
 void bindNoticeGrid(Shell& shell) {
-  shell.forms.bindGrid();
-  shell.screen.gridVisible = true;
-  shell.draw(shell.screen);
+  const RunState& run = shell.run;
+  const bool hasStatement = run.DbConn != nullptr && !run.qrySql.empty();
+  showGrid(shell, hasStatement ? GridRows(run.qrySql, *run.DbConn) : GridRows());
 }
 
 void detachNoticeGrid(Shell& shell) {

@@ -14,7 +14,7 @@ namespace zamo {
 // fails is told in a box; a file that is no working database is closed again.
 void mnuFileOpenDB(Shell& shell);
 
-// Shows the query form again.
+// Shows the query form again. Without an open database a RunTimeError is thrown.
 void mnuQueryNew(Shell& shell);
 
 // Shows the query form and then the grid of what it selects. After Cancel the grid stays as it is. A

@@ -22,12 +22,11 @@ QWidget* formOnTop(QWidget& window) {
 }
 
 AgencyLookups lookupsOf(const std::shared_ptr<MasterAgencies>& agencies) {
-  return {[agencies](std::string_view adm, std::string_view code) {
-            return agencies->isOpAgcyOfAdm(adm, code);
-          },
-          [agencies](std::string_view adm, std::string_view code) {
-            return agencies->isAddrCodeOfAdm(adm, code);
-          }};
+  return {
+      [agencies](std::string_view adm, std::string_view code) { return agencies->isOpAgcyOfAdm(adm, code); },
+      [agencies](std::string_view adm, std::string_view code) {
+        return agencies->isAddrCodeOfAdm(adm, code);
+      }};
 }
 
 std::vector<GzmpLine> outlinesOf(const Shell& shell, const GzmpBox& box) {

@@ -7,8 +7,8 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QProcess>
+#include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
@@ -20,8 +20,8 @@
 #include "platform/plain_host.h"
 #include "platform/run_time_error.h"
 #include "shell/main_window.h"
-#include "widgets/qt_text.h"
 #include "shell/start_up.h"
+#include "widgets/qt_text.h"
 
 namespace zamo {
 namespace {

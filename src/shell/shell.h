@@ -8,6 +8,7 @@
 #include "map/world_map.h"
 #include "platform/host.h"
 #include "query/run_state.h"
+#include "shell/grid_rows.h"
 
 namespace zamo {
 
@@ -35,9 +36,8 @@ struct Forms {
   std::function<void()> showQueryForm = [] {};
   // The date dialog, modally; gives its condition, empty on Cancel.
   std::function<std::string()> askUpdateCondition = [] { return std::string(); };
-  // Gives NtcDataGrid the rows of qrySql, none without a statement. Detaching lets go of those that nobody
-  // sees.
-  std::function<void()> bindGrid = [] {};
+  // Gives NtcDataGrid its rows. Detaching lets go of those that nobody sees.
+  std::function<void(GridRows rows)> bindGrid = [](const GridRows&) {};
   std::function<void()> detachGrid = [] {};
   // The screen of the notice at that place of IndexList, modally.
   std::function<void(std::int32_t key, std::int32_t idx, const std::string& type)> openNotice =

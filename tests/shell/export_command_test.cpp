@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "database/recordset.h"
+#include "platform/run_time_error.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
 
@@ -254,11 +255,19 @@ TEST_F(ExportCommand, that_is_declined_shows_no_closing_box) {
   EXPECT_EQ(script.hourglasses, 0);
 }
 
-TEST_F(ExportCommand, without_a_database_does_nothing) {
+TEST_F(ExportCommand, without_a_database_is_an_error_and_does_nothing) {
   shell.run.DbFileName = folder.file("notices.mdb");
   condition = "d_updated >= #03/01/2026#";
-  mnuTxtDBAll(shell);
-  mnuTxtDBUpdated(shell);
+  for (const auto command : {mnuTxtDBAll, mnuTxtDBUpdated}) {
+    try {
+      command(shell);
+      ADD_FAILURE() << "not refused";
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(error.number, 5);
+      EXPECT_EQ(error.text, "No database is open");
+    }
+  }
+  EXPECT_EQ(asked, 0);
   EXPECT_EQ(detached, 0);
   EXPECT_THAT(exportsHere(), IsEmpty());
   EXPECT_THAT(script.boxes, IsEmpty());

@@ -50,9 +50,13 @@ class ASelection : public testing::Test {
       shell.run.qryConfirmed = !sql.empty();
       if (onForm) onForm();
     };
-    shell.forms.bindGrid = [this] {
+    shell.forms.bindGrid = [this](const GridRows& rows) {
       events.push_back("bind");
       boundTo = shell.run.qrySql;
+      bound.clear();
+      for (std::size_t row = 0; row < rows.rowCount(); ++row) bound.emplace_back(rows.text(row, 0));
+      boundTitles.clear();
+      for (std::size_t i = 0; i < rows.columnCount(); ++i) boundTitles.push_back(rows.title(i));
     };
     shell.forms.detachGrid = [this] {
       events.push_back(shell.run.DbConn != nullptr ? "detach" : "detach without database");
@@ -98,6 +102,7 @@ class ASelection : public testing::Test {
     EXPECT_FALSE(shell.screen.gridVisible);
     EXPECT_THAT(events, IsEmpty());
     EXPECT_THAT(script.statuses, IsEmpty());
+    EXPECT_EQ(script.repaints, 1) << "with the name of the file";
   }
 
   struct Opened {
@@ -118,6 +123,8 @@ class ASelection : public testing::Test {
 
   std::string sqlBeforeForm;
   std::string boundTo;
+  std::vector<std::string> bound;  // the first column of the rows
+  std::vector<std::string> boundTitles;
   std::vector<std::string> events;
   std::vector<Opened> opened;
 };
@@ -243,7 +250,7 @@ TEST_F(ASelection, is_not_made_when_the_dialog_fails) {
 }
 
 TEST_F(ASelection, that_cannot_be_bound_is_told_as_an_error_of_the_command) {
-  shell.forms.bindGrid = [] { throw RunTimeError{11, "database disk image is malformed"}; };
+  shell.forms.bindGrid = [](const GridRows&) { throw RunTimeError{11, "database disk image is malformed"}; };
   openDatabase();
   expectOnlyBox("Error 11 : database disk image is malformed", "");
   EXPECT_FALSE(shell.screen.gridVisible);
@@ -285,6 +292,8 @@ TEST_F(ASelection, of_notices_has_their_keys_in_the_order_of_its_statement) {
   EXPECT_EQ(shell.run.NtcCount, 3);
   EXPECT_FALSE(shell.run.GridListsContours);
   EXPECT_EQ(boundTo, sql);
+  EXPECT_THAT(bound, ElementsAre("83700003", "83700002", "83700001"));
+  EXPECT_THAT(boundTitles, ElementsAre("VornaKey"));
 }
 
 TEST_F(ASelection, of_contours_has_their_keys) {
@@ -295,12 +304,13 @@ TEST_F(ASelection, of_contours_has_their_keys) {
   EXPECT_EQ(shell.run.NtcCount, 2);
   EXPECT_TRUE(shell.run.GridListsContours);
   EXPECT_EQ(boundTo, kContours);
+  EXPECT_THAT(bound, ElementsAre("11", "12"));
   expectNoBox();
 }
 
 TEST_F(ASelection, is_made_under_the_hourglass_and_shown_under_the_usual_pointer) {
   onForm = [this] { EXPECT_EQ(script.hourglasses, 1); };
-  shell.forms.bindGrid = [this] { EXPECT_EQ(script.hourglasses, 0); };
+  shell.forms.bindGrid = [this](const GridRows&) { EXPECT_EQ(script.hourglasses, 0); };
   openDatabase();
   EXPECT_EQ(script.hourglasses, 0);
 }
@@ -320,11 +330,39 @@ TEST_F(ASelection, that_the_engine_refuses_is_told_once_and_gives_an_empty_grid)
   openDatabase();
   expectOnlyBox("Erreur 1:Syntax error in date #02/31/2005#", "getVornaKeyList");
   EXPECT_EQ(boundTo, "");
+  EXPECT_THAT(bound, IsEmpty());
   EXPECT_TRUE(shell.screen.gridVisible);
   EXPECT_EQ(shell.run.NtcCount, 0);
   EXPECT_THAT(script.statuses,
               ElementsAre("Retrieving the data ... Please be patient", "Number of records : 0",
                           "Sucessfully opened the database - Number of notices : 0"));
+}
+
+TEST_F(ASelection, with_a_row_that_has_no_key_is_told_and_gives_an_empty_grid) {
+  sql = "SELECT vornakey FROM (SELECT vornakey FROM fmtv_vorna UNION ALL SELECT NULL)";
+  openDatabase();
+  expectOnlyBox("Erreur 13:Type mismatch", "getVornaKeyList");
+  EXPECT_THAT(bound, IsEmpty());
+  EXPECT_EQ(shell.run.NtcCount, 0);
+}
+
+TEST_F(ASelection, shows_the_rows_as_the_screen_left_them) {
+  browse();
+  shell.forms.openNotice = [this](std::int32_t, std::int32_t, const std::string&) {
+    RawDatabase(path).run("DELETE FROM fmtv_vorna WHERE vornakey = 83700002");
+  };
+  openGridRow(shell, GridRow{83700002, "GT2"});
+  EXPECT_THAT(bound, ElementsAre("83700001", "83700003"));
+}
+
+TEST_F(ASelection, that_is_refused_is_not_counted_as_the_one_before) {
+  browse();
+  sql = "SELECT vornakey FROM none";
+  mnuQueryNew(shell);
+  expectOnlyBox("Erreur 1:no such table: none", "getVornaKeyList");
+  EXPECT_EQ(shell.run.NtcCount, 0);
+  EXPECT_EQ(boundTo, "");
+  EXPECT_EQ(script.statuses.back(), "Number of records : 0");
 }
 
 TEST_F(ASelection, of_contours_that_the_engine_refuses_is_told_once_too) {
@@ -367,10 +405,16 @@ TEST_F(ASelection, that_is_cancelled_the_second_time_leaves_no_grid) {
   EXPECT_TRUE(shell.screen.txtDbEnabled);
 }
 
-TEST_F(ASelection, without_an_open_database_has_nothing_to_detach) {
-  sql.clear();
-  mnuQueryNew(shell);
-  EXPECT_THAT(events, ElementsAre("form"));
+TEST_F(ASelection, is_not_asked_for_without_a_database) {
+  try {
+    mnuQueryNew(shell);
+    ADD_FAILURE() << "not refused";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number, 5);
+    EXPECT_EQ(error.text, "No database is open");
+  }
+  EXPECT_THAT(events, IsEmpty());
+  expectNoBox();
 }
 
 TEST_F(ASelection, fixes_the_columns_of_its_shape) {
@@ -464,6 +508,8 @@ TEST_F(ASelection, without_a_row_has_nothing_to_open_though_the_database_holds_n
   sql = "SELECT vornakey AS VornaKey FROM fmtv_vorna WHERE adm = 'D'";
   browse();
   EXPECT_EQ(shell.run.NtcCount, 0);
+  EXPECT_THAT(bound, IsEmpty());
+  EXPECT_THAT(boundTitles, ElementsAre("VornaKey"));
   openGridRow(shell, {});
   expectOnlyBox("No notices in the database", "Database is Empty", BoxIcon::exclamationAndInformation);
   EXPECT_THAT(opened, IsEmpty());

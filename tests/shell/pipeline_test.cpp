@@ -335,7 +335,7 @@ TEST_F(Pipeline, the_grid_lets_go_of_an_open_database_before_the_load) {
 
 TEST_F(Pipeline, an_error_of_the_query_behind_the_load_is_told_under_its_stage) {
   shell.forms.showQueryForm = [this] { confirmOneNotice(shell); };
-  shell.forms.bindGrid = [] { throw RunTimeError{11, "database disk image is malformed"}; };
+  shell.forms.bindGrid = [](const GridRows&) { throw RunTimeError{11, "database disk image is malformed"}; };
   choose("good.txt", kGoodNotice);
   runTextCommand(shell, kBasic);
   ASSERT_EQ(script.boxes.size(), 1U);

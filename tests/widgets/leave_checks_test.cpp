@@ -9,8 +9,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "widgets/upper_case.h"
 #include "support/widgets_application.h"
+#include "widgets/upper_case.h"
 
 namespace zamo {
 namespace {

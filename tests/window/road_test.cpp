@@ -1,5 +1,6 @@
 // The whole road from the menus: a notice file, the query form, the grid and the exported file on disk.
 #include <QAbstractButton>
+#include <filesystem>
 
 #include "query/only_date_update.h"
 #include "query/query_form.h"
@@ -148,6 +149,111 @@ TEST_F(Road, ends_without_a_grid_when_the_query_form_is_cancelled) {
 
   exportAll();
   EXPECT_TRUE(std::filesystem::exists(exportPath()));
+}
+
+TEST_F(Road, without_a_database_is_told_at_its_commands) {
+  // The database can't be made where a folder stands.
+  std::filesystem::create_directories(folder.file("notices.mdb") + "/occupied");
+  open(kThreeNotices);
+  ASSERT_EQ(shell.run.DbConn, nullptr);
+  script.boxes.clear();
+  for (const char* command : {"mnuQueryNew", "mnuTxtDBAll", "mnuTxtDBUpdated"}) {
+    ASSERT_TRUE(menu(command).isEnabled()) << command;
+    menu(command).trigger();
+    expectOneBox("Erreur 5:No database is open", command, BoxIcon::none);
+    script.boxes.clear();
+  }
+  EXPECT_FALSE(shows("NtcDataGrid"));
+  EXPECT_TRUE(script.questions.empty());
+  EXPECT_EQ(script.hourglasses, 0);
+}
+
+TEST_F(Road, has_the_hourglass_while_the_query_form_is_shown) {
+  operatorDoes<QrySelectFrmKV19>(window, [this](QrySelectFrmKV19& form) {
+    EXPECT_EQ(script.hourglasses, 1);
+    tick(form, "CheckBoxLs");
+    press(form, "ButtonOK");
+    EXPECT_TRUE(form.isVisible());
+    tick(form, "CheckBoxLs", false);
+    press(form, "ButtonOK");
+  });
+  openDatabase();
+  expectOneBox("Please select either 'Prior' or 'After' for the date update", "Error-Date Update",
+               BoxIcon::none);
+  EXPECT_TRUE(shows("NtcDataGrid"));
+  EXPECT_EQ(script.hourglasses, 0);
+}
+
+TEST_F(Road, of_a_new_query_that_is_cancelled_leaves_the_hidden_grid_as_it_was) {
+  store(1);
+  confirmQuery();
+  openDatabase();
+  const auto expectCancelled = [this](const std::function<void(QrySelectFrmKV19&)>& leaveForm) {
+    operatorDoes<QrySelectFrmKV19>(window, leaveForm);
+    menu("mnuQueryNew").trigger();
+    EXPECT_EQ(shell.run.qrySql, "");
+    EXPECT_FALSE(shell.run.qryConfirmed);
+    EXPECT_NE(shell.run.DbConn, nullptr);
+    EXPECT_FALSE(shows("NtcDataGrid"));
+    EXPECT_FALSE(shows("TxtProcessingStatus"));
+    EXPECT_EQ(grid().model()->rowCount(), 1);
+    EXPECT_TRUE(menu("mnuQuery").isEnabled());
+    EXPECT_TRUE(menu("mnuTxtDB").isEnabled());
+    EXPECT_EQ(script.hourglasses, 0);
+  };
+  expectCancelled([](QrySelectFrmKV19& form) { press(form, "ButtonCancel"); });
+  expectCancelled([](QrySelectFrmKV19& form) { QTest::keyClick(&form, Qt::Key_Escape); });
+  expectCancelled([](QrySelectFrmKV19& form) { form.close(); });
+  expectNoBox();
+  confirmQuery();
+  menu("mnuQueryNew").trigger();
+  EXPECT_EQ(status(), "Number of records : 1");
+  EXPECT_TRUE(shows("NtcDataGrid"));
+}
+
+TEST_F(Road, to_a_database_with_broken_tables_says_so_and_opens_the_next_one) {
+  const std::string sound = folder.file("sound.mdb");
+  std::filesystem::copy_file(databasePath, sound);
+  raw.run("DROP TABLE fmtv_rmks");
+  confirmQuery();
+  openDatabase();
+  expectOneBox("Erreur 1:no such table: fmtv_rmks", "getVornaKeyList", BoxIcon::none);
+  EXPECT_EQ(grid().model()->rowCount(), 0);
+  script.boxes.clear();
+  script.files.push_back(sound);
+  confirmQuery();
+  menu("mnuFileOpenDB").trigger();
+  EXPECT_EQ(status(), "Sucessfully opened the database - Number of notices : 0");
+  expectNoBox();
+}
+
+TEST_F(Road, over_a_database_that_was_spoiled_while_it_was_open_tells_so_and_goes_on) {
+  store(1);
+  const std::string sound = folder.file("sound.mdb");
+  std::filesystem::copy_file(databasePath, sound);
+  confirmQuery();
+  openDatabase();
+  folder.write("working.mdb", std::string(std::filesystem::file_size(databasePath), 'x'));
+  const auto expectTold = [this](const std::vector<std::string>& boxes) {
+    std::vector<std::string> shown;
+    for (const Box& box : script.boxes) shown.push_back(box.title + ": " + box.text);
+    EXPECT_EQ(shown, boxes);
+    EXPECT_EQ(script.hourglasses, 0);
+    script.boxes.clear();
+  };
+  confirmQuery();
+  menu("mnuQueryNew").trigger();
+  expectTold({"QrySelectFrmKV19: Erreur 26:file is not a database",
+              "getVornaKeyList: Erreur 26:file is not a database"});
+  EXPECT_EQ(grid().model()->rowCount(), 0);
+  menu("mnuTxtDBAll").trigger();
+  expectTold({"countSelectedRecords: Erreur 26:file is not a database",
+              ": There are no updated notices. Output text file will not be created"});
+  script.files.push_back(sound);
+  confirmQuery();
+  menu("mnuFileOpenDB").trigger();
+  expectTold({});
+  EXPECT_EQ(status(), "Sucessfully opened the database - Number of notices : 1");
 }
 
 TEST_F(Road, to_updated_records_goes_by_the_date_dialog) {
