@@ -49,13 +49,6 @@ void Screen::setCaption(std::string_view name, std::string_view caption) {
   changed(control);
 }
 
-void Screen::setTip(std::string_view name, std::string_view tip) {
-  Control& control = find(name);
-  if (control.tip == tip) return;
-  control.tip = tip;
-  changed(control);
-}
-
 void Screen::setVisible(std::string_view name, bool visible) {
   Control& control = find(name);
   if (control.visible == visible) return;

@@ -92,7 +92,6 @@ class Screen {
   // The text of a text box, or of a combo that can be typed into. Raises `change`.
   void setText(std::string_view name, std::string_view text);
   void setCaption(std::string_view name, std::string_view caption);
-  void setTip(std::string_view name, std::string_view tip);
   void setVisible(std::string_view name, bool visible);
   void setVisible(std::initializer_list<std::string_view> names, bool visible);
   void setEnabled(std::string_view name, bool enabled);

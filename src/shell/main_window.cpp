@@ -12,10 +12,12 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "screens/err_msg_frm.h"
 #include "shell/notice_grid.h"
 #include "widgets/qt_text.h"
 
@@ -70,6 +72,8 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell) {
   setObjectName("ZamoKV19Startup");
   makeMenus();
   makeControls();
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [this] { AboutFrm(kWindowVersion, this).exec(); });
   setMinimumSize(kSmallestSize);
   resize(kUsualSize.boundedTo(screen()->availableSize()));
   shell_.draw = [this](const MainScreen& wanted) { draw(wanted); };

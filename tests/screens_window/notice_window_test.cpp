@@ -280,16 +280,14 @@ TEST_F(TelevisionAssignment, a_combo_follows_its_items) {
   EXPECT_EQ(combo("Combo_4B_Ctry").currentIndex(), -1);
 }
 
-TEST_F(TelevisionAssignment, captions_tips_and_the_title_follow) {
+TEST_F(TelevisionAssignment, captions_and_the_title_follow) {
   show();
   form.screen.setCaption("OptInt_Add", "RECORDED");
   form.screen.setCaption("Lbl_trg_or", "");
-  form.screen.setTip("Txt_9E_AntHgt", "another tip");
   form.screen.setCaption("FrameTrg", "A & B");
   form.screen.setTitle("GT1      Digital");
   EXPECT_EQ(option("OptInt_Add").text(), "RECORDED");
   EXPECT_EQ(control<QLabel>("Lbl_trg_or").text(), "");
-  EXPECT_EQ(box("Txt_9E_AntHgt").toolTip(), "another tip");
   EXPECT_EQ(control<QGroupBox>("FrameTrg").title(), "A && B");
   EXPECT_EQ(window->windowTitle(), "GT1      Digital");
 }

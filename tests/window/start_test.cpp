@@ -3,6 +3,11 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include "screens/err_msg_frm.h"
+#include "window/operators_hand.h"
 #include "window/window_fixture.h"
 
 // The font library keeps what it has read until the program's end, and the leak checker can't see that.
@@ -141,6 +146,18 @@ TEST_F(Window, the_tabulator_walks_the_controls_as_they_are_read) {
   }
   EXPECT_EQ(walked, (std::vector<std::string>{"TxtFileName", "ButtonViewFile", "ButtonReVal",
                                               "TxtProcessingStatus"}));
+}
+
+TEST_F(Window, F1_tells_what_program_this_is) {
+  start();
+  (void)QTest::qWaitForWindowActive(&window);
+  std::string about;
+  operatorDoes<AboutFrm>(window, [&about](AboutFrm& form) {
+    about = form.findChild<QPlainTextEdit*>("TxtAbout")->toPlainText().toStdString();
+    form.findChild<QPushButton*>("ButtonOK")->click();
+  });
+  QTest::keyClick(&window, Qt::Key_F1);
+  EXPECT_EQ(about.rfind(" KV19 Zamo HDLK Digital Version 2.08 / 08.04.2009\n", 0), 0U) << about;
 }
 
 TEST_F(Window, fits_a_small_display_scaled_twice) {
