@@ -179,7 +179,7 @@ TEST_F(FormFlows, an_identifier_of_21_characters_ends_at_the_duplicate) {
 }
 
 TEST_F(FormFlows, no_identifier_no_notice) {
-  openNew("GT1", [this](Operator& hand) { hand.click("Button_AddNew"); });
+  openNew("GT1", [](Operator& hand) { hand.click("Button_AddNew"); });
   expectTold({"New AdminRefID: Cannot save the notice as it will create a duplicate notice"});
   EXPECT_EQ(run.NtcCount, 1);
 }

@@ -172,10 +172,10 @@ TEST_F(FormRules, a_diagram_whose_zero_is_written_0_0_is_not_normalized) {
       {"GT1", "<ANT_DIAGR_H> : has to be normalized\r\n(9NH)\r\n"},
   };
   for (const auto& [kind, line] : cases) {
-    openNew(kind, [&](Operator& hand) {
+    openNew(kind, [&, words = line](Operator& hand) {
       hand.enter("Txt_9NHAzm000", "0.0");
       hand.click("Button_Next");
-      expectTold({}, {saveInvalid(line)});
+      expectTold({}, {saveInvalid(words)});
       hand.enter("Txt_9NHAzm350", "0");
       hand.click("Button_Next");
       expectTold({}, {kAskUpdate});
@@ -193,10 +193,10 @@ TEST_F(FormRules, the_vertical_diagram_is_told_in_the_forms_own_words) {
     ntc.t_polar = "V";
     ntc.t_erp_v_dbw = "43";
     ntc.ant_diagr_v = makeDiagram();
-    openNew(ntc, [&](Operator& hand) {
+    openNew(ntc, [&, words = line](Operator& hand) {
       hand.enter("Txt_9NVAzm000", "0.0");
       hand.click("Button_Next");
-      expectTold({}, {saveInvalid(line)});
+      expectTold({}, {saveInvalid(words)});
     });
   }
 }
