@@ -8,6 +8,7 @@
 #include "database/db_connection.h"
 #include "database/raw_database.h"
 #include "platform/run_time_error.h"
+#include "support/places.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
 

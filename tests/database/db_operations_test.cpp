@@ -8,6 +8,7 @@
 #include "database/recordset.h"
 #include "database/working_database.h"
 #include "platform/run_time_error.h"
+#include "support/places.h"
 
 namespace zamo {
 namespace {

@@ -24,6 +24,7 @@
 #include "noticefile/notice_writer.h"
 #include "noticefile/section_reader.h"
 #include "noticefile/writer_text.h"
+#include "support/places.h"
 
 namespace zamo {
 namespace {

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "database/raw_database.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace zamo::test {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "real_map.h"
+#include "support/places.h"
 
 namespace zamo {
 namespace {

@@ -8,6 +8,7 @@
 
 #include "map/map_data.h"
 #include "map/world_map.h"
+#include "support/places.h"
 
 namespace zamo {
 

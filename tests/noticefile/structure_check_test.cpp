@@ -7,6 +7,7 @@
 #include <ostream>
 #include <vector>
 
+#include "support/places.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
 

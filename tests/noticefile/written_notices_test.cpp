@@ -11,6 +11,7 @@
 #include "noticefile/section_reader.h"
 #include "noticefile/structure_check.h"
 #include "noticefile/writer_text.h"
+#include "support/places.h"
 
 namespace zamo {
 namespace {

@@ -16,6 +16,7 @@
 #include "model/ntc_reset.h"
 #include "screens/notice_form.h"
 #include "screens/notice_walk.h"
+#include "support/places.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
 #include "support/valid_notices.h"

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace zamo {

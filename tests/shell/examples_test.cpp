@@ -9,6 +9,7 @@
 #include <set>
 #include <string>
 
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace zamo {

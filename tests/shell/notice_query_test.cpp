@@ -9,6 +9,7 @@
 #include "platform/run_time_error.h"
 #include "shell/pipeline.h"
 #include "shell/start_up.h"
+#include "support/places.h"
 #include "support/scripted_host.h"
 #include "support/temp_folder.h"
 

@@ -8,6 +8,7 @@
 #include "database/raw_database.h"
 #include "query/selection.h"
 #include "shell/frozen_table.h"
+#include "support/places.h"
 #include "window/window_fixture.h"
 
 namespace zamo::test {
