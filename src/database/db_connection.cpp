@@ -47,18 +47,13 @@ void copyDatabaseFile(const std::string& from, const std::string& destination) {
   if (isSameFile(from, destination)) {
     throw RunTimeError{kPermissionDenied, "The template can't be its own copy: " + textFromUtf8(destination)};
   }
-  requireRemovable(destination);
   for (const char* ending : kCompanions) requireRemovable(destination + ending);
-  const std::string beside = destination + ".part";
-  copyFile(from, beside);
-  try {
-    settleOldDatabase(destination);
-    for (const char* ending : kCompanions) removeFile(destination + ending);
-    renameFile(beside, destination);
-  } catch (const RunTimeError&) {
-    removeFile(beside);
-    throw;
-  }
+  NewFile copy(destination);
+  copy.writeCopyOf(from);
+  copy.close();
+  settleOldDatabase(destination);
+  for (const char* ending : kCompanions) removeFile(destination + ending);
+  copy.takePlace();
 }
 
 bool tellOldStructure(const Host& host) {

@@ -1,12 +1,7 @@
 #include "platform/files.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
 #include <filesystem>
+#include <random>
 #include <system_error>
 #include <utility>
 
@@ -18,50 +13,22 @@ namespace {
 constexpr std::size_t kCopyBuffer = 256 * std::size_t{1024};
 constexpr std::size_t kLargePiece = 64 * std::size_t{1024};
 
+// With what is added it stays far below what any file system takes.
+constexpr std::size_t kLongestOwnName = 128;
+constexpr int kRandomLetters = 12;
+
+std::string nameNobodyHas(const std::string& place) {
+  std::filesystem::path path(place);
+  std::string name = path.filename().string();
+  if (name.size() > kLongestOwnName) name = "new";
+  name += '.';
+  std::random_device random;
+  std::uniform_int_distribution<int> letter('a', 'z');
+  for (int i = 0; i < kRandomLetters; ++i) name += static_cast<char>(letter(random));
+  return path.replace_filename(name + ".part").string();
+}
+
 }  // namespace
-
-class OpenFile {
- public:
-  OpenFile(std::string path, int flags)
-      : path_(std::move(path)), descriptor_(::open(path_.c_str(), flags, 0666)) {
-    if (descriptor_ < 0) throw fileError(errno, path_);
-  }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-  ~OpenFile() {
-    if (descriptor_ >= 0) ::close(descriptor_);
-  }
-
-  // The next bytes, read into `part`; none at the end.
-  std::string_view read(std::string& part) const {
-    ssize_t count = 0;
-    do {
-      count = ::read(descriptor_, part.data(), part.size());
-    } while (count < 0 && errno == EINTR);
-    if (count < 0) throw fileError(errno, path_);
-    return {part.data(), static_cast<std::size_t>(count)};
-  }
-
-  void write(std::string_view content) {
-    while (!content.empty()) {
-      const ssize_t written = ::write(descriptor_, content.data(), content.size());
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) throw fileError(errno, path_);
-      content.remove_prefix(static_cast<std::size_t>(written));
-    }
-  }
-
-  void closeFlushed() {
-    const bool flushed = ::fsync(descriptor_) == 0 || errno == EINVAL;
-    const int flushError = errno;
-    if (::close(std::exchange(descriptor_, -1)) != 0) throw fileError(errno, path_);
-    if (!flushed) throw fileError(flushError, path_);
-  }
-
- private:
-  std::string path_;
-  int descriptor_;
-};
 
 bool fileExists(const std::string& path, const Yield& yield) {
   if (yield) yield();
@@ -69,30 +36,49 @@ bool fileExists(const std::string& path, const Yield& yield) {
   return std::filesystem::exists(path, error);
 }
 
-void replaceFile(const std::string& path, std::string_view content) {
-  const std::string beside = path + ".part";
-  try {
-    OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
-    file.write(content);
-    file.closeFlushed();
-    renameFile(beside, path);
-  } catch (const RunTimeError&) {
-    ::unlink(beside.c_str());
-    throw;
+NewFile::NewFile(std::string place) : place_(std::move(place)) {
+  requireReplaceable(place_);
+  while (!file_) {
+    path_ = nameNobodyHas(place_);
+    file_ = OpenFile::ofNewName(path_, place_);
   }
 }
 
-void copyFile(const std::string& from, const std::string& destination) {
-  OpenFile source(from, O_RDONLY | O_CLOEXEC);
+NewFile::~NewFile() {
+  if (isInPlace_) return;
+  file_.reset();
   try {
-    OpenFile target(destination, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
-    std::string part(kCopyBuffer, '\0');
-    for (std::string_view content; !(content = source.read(part)).empty();) target.write(content);
-    target.closeFlushed();
+    removeFile(path_);
   } catch (const RunTimeError&) {
-    ::unlink(destination.c_str());
-    throw;
+    // Its name tells what it is.
   }
+}
+
+void NewFile::write(std::string_view content) {
+  file_->write(content);
+}
+
+void NewFile::writeCopyOf(const std::string& from) {
+  const OpenFile source = OpenFile::forReading(from);
+  std::string part(kCopyBuffer, '\0');
+  while (const std::size_t count = source.read(part.data(), part.size())) write({part.data(), count});
+}
+
+void NewFile::close() {
+  file_->closeFlushed();
+}
+
+void NewFile::takePlace() {
+  requireReplaceable(place_);
+  renameFile(path_, place_);
+  isInPlace_ = true;
+}
+
+void replaceFile(const std::string& path, std::string_view content) {
+  NewFile file(path);
+  file.write(content);
+  file.close();
+  file.takePlace();
 }
 
 bool isSameFile(const std::string& one, const std::string& other) {
@@ -101,29 +87,16 @@ bool isSameFile(const std::string& one, const std::string& other) {
 }
 
 void requireReadable(const std::string& path) {
-  const OpenFile opened(path, O_RDONLY | O_CLOEXEC);
-}
-
-void requireRemovable(const std::string& path) {
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw fileError(EISDIR, path);
-}
-
-void removeFile(const std::string& path) {
-  if (::unlink(path.c_str()) != 0 && errno != ENOENT) throw fileError(errno, path);
-}
-
-void renameFile(const std::string& from, const std::string& to) {
-  if (std::rename(from.c_str(), to.c_str()) != 0) throw fileError(errno, to);
+  OpenFile::forReading(path);
 }
 
 void appendToFile(const std::string& path, std::string_view content) {
-  OpenFile file(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC);
-  file.write(content);
+  OpenFile::forAppending(path).write(content);
 }
 
-GrowingFile::GrowingFile(const std::string& path)
-    : file_(std::make_unique<OpenFile>(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC)) {}
+GrowingFile::GrowingFile(const std::string& path) : file_(path) {
+  file_.takePlace();
+}
 
 GrowingFile::~GrowingFile() {
   try {
@@ -139,21 +112,16 @@ void GrowingFile::write(std::string_view content) {
 }
 
 void GrowingFile::flush() {
-  if (!held_.empty()) file_->write(std::exchange(held_, {}));
+  if (!held_.empty()) file_.write(std::exchange(held_, {}));
 }
 
 void GrowingFile::close() {
   flush();
-  file_->closeFlushed();
+  file_.close();
 }
 
 std::string baseOf(std::string_view path) {
   return std::string(path.substr(0, path.size() < 4 ? 0 : path.size() - 4));
-}
-
-std::string executableFolder() {
-  std::error_code error;
-  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
 }
 
 }  // namespace zamo

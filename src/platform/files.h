@@ -1,24 +1,52 @@
 // Files by path: what is there, and writing that never leaves half a file under its final name.
 #pragma once
 
-#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/numbers.h"
+#include "platform/open_file.h"
 
 namespace zamo {
 
 // True if the operating system finds something of that name. Errors count as not found. Yields once.
 bool fileExists(const std::string& path, const Yield& yield = {});
 
-// Puts `content` in place of the file: it is written beside it, flushed to the disk and renamed over it.
-// On failure the old file stands as it was and a RunTimeError is thrown.
+// A file that is to take the place of another. It is made beside it under a name that no other has, and never
+// through a link. Until it has taken the place it goes with this object. Every failure is thrown as a
+// RunTimeError, which speaks of the place.
+class NewFile {
+ public:
+  // Refused where requireReplaceable refuses.
+  explicit NewFile(std::string place);
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile();
+
+  // Where it is now. Once it is closed, no descriptor of ours is on it.
+  const std::string& path() const { return path_; }
+
+  void write(std::string_view content);
+  void writeCopyOf(const std::string& from);
+  // Puts the content on the disk. Nothing may be written behind it.
+  void close();
+  // Puts this file where the other one is, if there is one, in one step. It may be open still.
+  void takePlace();
+
+ private:
+  std::string place_;
+  std::string path_;
+  std::optional<OpenFile> file_;
+  bool isInPlace_ = false;
+};
+
+// Puts `content` in place of the file. On failure the old file stands as it was and a RunTimeError is thrown.
 void replaceFile(const std::string& path, std::string_view content);
 
-// Copies the bytes of a file and flushes them to the disk. On failure nothing is left at `destination`, and a
-// RunTimeError is thrown.
-void copyFile(const std::string& from, const std::string& destination);
+// Throws RunTimeError when what stands at the path is no file or may not be written, whoever asks. Of a link
+// only the link is replaced.
+void requireReplaceable(const std::string& path);
 
 // Whether both paths lead to one file.
 bool isSameFile(const std::string& one, const std::string& other);
@@ -29,19 +57,18 @@ void requireReadable(const std::string& path);
 // Throws RunTimeError when the path is taken by something that is no file.
 void requireRemovable(const std::string& path);
 
-// Either throws RunTimeError. A file that isn't there is removed already.
+// Either throws RunTimeError. A file that isn't there is removed already. A new name is on the disk when this
+// returns.
 void removeFile(const std::string& path);
 void renameFile(const std::string& from, const std::string& to);
 
 // Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
 void appendToFile(const std::string& path, std::string_view content);
 
-class OpenFile;
-
 // A file that grows while it is written. Every failure is thrown as a RunTimeError.
 class GrowingFile {
  public:
-  // Creates the file; one that is there is emptied.
+  // Makes the file, in place of one that is there.
   explicit GrowingFile(const std::string& path);
   GrowingFile(const GrowingFile&) = delete;
   GrowingFile& operator=(const GrowingFile&) = delete;
@@ -56,7 +83,7 @@ class GrowingFile {
   void close();
 
  private:
-  std::unique_ptr<OpenFile> file_;
+  NewFile file_;
   std::string held_;
 };
 

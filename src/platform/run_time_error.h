@@ -21,7 +21,7 @@ struct RunTimeError {
   std::string text;
 };
 
-// The error of a failed system call on `path`, from its errno.
+// The error of a failed system call on `path`, from the system's own number.
 RunTimeError fileError(int systemError, const std::string& path);
 
 }  // namespace zamo

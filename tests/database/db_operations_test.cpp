@@ -285,9 +285,30 @@ TEST_F(ACopyOfTheTemplate, in_a_read_only_folder_is_told_of_and_leaves_what_was_
     copyMasterDB(host, place + "/notices.mdb", folder.file("template.mdb"));
   }
   fs::permissions(place, fs::perms::owner_all);
-  expectOnlyBox("Error 70 : Permission denied: " + place + "/notices.mdb.part", "");
+  expectOnlyBox("Error 70 : Permission denied: " + place + "/notices.mdb", "");
   EXPECT_EQ(test::readFile(place + "/notices.mdb"), "before");
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb", "notices.mdb-wal"}));
+}
+
+TEST_F(ACopyOfTheTemplate, onto_a_write_protected_database_is_told_of_and_leaves_it) {
+  const std::string place = makeFolder("protected");
+  folder.write("protected/notices.mdb", "before");
+  fs::permissions(place + "/notices.mdb", fs::perms::owner_read);
+  copyMasterDB(host, place + "/notices.mdb");
+  expectOnlyBox("Error 70 : Permission denied: " + place + "/notices.mdb", "");
+  EXPECT_EQ(test::readFile(place + "/notices.mdb"), "before");
+  EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb"}));
+}
+
+TEST_F(ACopyOfTheTemplate, goes_through_no_link_that_waits_beside_its_place) {
+  const std::string place = makeFolder("links");
+  folder.write("links/precious", "not touched");
+  fs::create_symlink("precious", place + "/notices.mdb.part");
+  fs::create_symlink("precious", place + "/notices.mdb");
+  copyMasterDB(host, place + "/notices.mdb");
+  expectNoBox();
+  EXPECT_EQ(test::readFile(place + "/precious"), "not touched");
+  EXPECT_TRUE(test::readFile(place + "/notices.mdb") == test::readFile(kTemplate));
 }
 
 TEST_F(ACopyOfTheTemplate, on_a_full_disk_is_told_of_and_leaves_what_was_there) {
@@ -298,7 +319,7 @@ TEST_F(ACopyOfTheTemplate, on_a_full_disk_is_told_of_and_leaves_what_was_there) 
     const FileSizeLimit limit(10000);
     copyMasterDB(host, place + "/notices.mdb");
   }
-  expectOnlyBox("Error 61 : Disk full: " + place + "/notices.mdb.part", "");
+  expectOnlyBox("Error 61 : Disk full: " + place + "/notices.mdb", "");
   EXPECT_EQ(test::readFile(place + "/notices.mdb"), "before");
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb", "notices.mdb-wal"}));
 }

@@ -400,8 +400,10 @@ TEST_F(AnExport, whose_list_of_contours_fails_stops_before_the_tail) {
 
 TEST_F(AnExport, onto_a_full_disk_is_told_before_it_asks) {
   addNotice(83700001, "F", "A1");
-  std::filesystem::create_symlink("/dev/full", output);
-  EXPECT_FALSE(exported());
+  {
+    const FileSizeLimit limit(kHeader.size() - 1);
+    EXPECT_FALSE(exported());
+  }
   expectOnlyBox("Erreur 61:Disk full: " + output, "exportDBToTxt");
   EXPECT_EQ(run.end, ExportEnd::failed);
 }

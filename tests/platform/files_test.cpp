@@ -160,6 +160,128 @@ TEST(ReplaceFile, a_folder_without_write_permission_keeps_the_old_file) {
   EXPECT_EQ(readFile(path), "the old text");
 }
 
+// The mode binds everybody here, the superuser too.
+void protect(const std::string& path) {
+  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+}
+
+TEST(ReplaceFile, a_write_protected_file_is_permission_denied_and_stays) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "the old text");
+  protect(path);
+  const RunTimeError error = errorOf([&] { replaceFile(path, "new"); });
+  EXPECT_EQ(error.number, 70);
+  EXPECT_EQ(error.text, "Permission denied: " + path);
+  EXPECT_EQ(readFile(path), "the old text");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, replaces_a_link_and_never_what_it_leads_to) {
+  const TempFolder folder;
+  const std::string elsewhere = folder.write("elsewhere.txt", "not touched");
+  std::filesystem::create_symlink(elsewhere, folder.file("a.txt"));
+  std::filesystem::create_hard_link(elsewhere, folder.file("b.txt"));
+  replaceFile(folder.file("a.txt"), "new");
+  replaceFile(folder.file("b.txt"), "new");
+  EXPECT_EQ(readFile(elsewhere), "not touched");
+  EXPECT_EQ(readFile(folder.file("a.txt")), "new");
+  EXPECT_EQ(readFile(folder.file("b.txt")), "new");
+}
+
+// Each that stands in a folder for somebody's file.
+TEST(ReplaceFile, touches_no_other_file_whatever_its_name) {
+  const TempFolder folder;
+  const std::string elsewhere = folder.write("elsewhere.txt", "not touched");
+  std::filesystem::create_symlink(elsewhere, folder.file("a.txt.part"));
+  std::filesystem::create_hard_link(elsewhere, folder.file("b.txt.part"));
+  replaceFile(folder.file("a.txt"), "new");
+  replaceFile(folder.file("b.txt"), "new");
+  EXPECT_EQ(readFile(elsewhere), "not touched");
+  EXPECT_EQ(entriesIn(folder.path()), 5U);
+}
+
+TEST(ReplaceFile, what_is_no_file_is_refused_and_stays) {
+  const TempFolder folder;
+  const std::string path = folder.file("a.txt");
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  const RunTimeError error = errorOf([&] { replaceFile(path, "new"); });
+  EXPECT_EQ(error.number, 70);
+  EXPECT_EQ(error.text, "Not a regular file: " + path);
+  EXPECT_TRUE(std::filesystem::is_fifo(path));
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, takes_the_longest_name_there_can_be_and_refuses_a_longer_one) {
+  const TempFolder folder;
+  const std::string path = folder.file(std::string(255, 'x'));
+  replaceFile(path, "new");
+  EXPECT_EQ(readFile(path), "new");
+  const RunTimeError error = errorOf([&] { replaceFile(path + "x", "new"); });
+  EXPECT_EQ(error.number, 53);
+  EXPECT_EQ(error.text, "The name is too long for a file: " + path + "x");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(NewFile, has_a_name_of_its_own_in_the_folder_of_the_place_it_is_to_take) {
+  const TempFolder folder;
+  const std::string place = folder.write("a.mdb", "the old one");
+  NewFile one(place);
+  NewFile other(place);
+  EXPECT_NE(one.path(), other.path());
+  EXPECT_EQ(std::filesystem::path(one.path()).parent_path(), folder.path());
+  EXPECT_EQ(std::filesystem::file_size(one.path()), 0U);
+  EXPECT_EQ(readFile(place), "the old one");
+}
+
+TEST(NewFile, in_the_present_folder_has_no_folder_in_its_name) {
+  const TempFolder folder;
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.path());
+  {
+    NewFile file("a.mdb");
+    EXPECT_EQ(file.path().find('/'), std::string::npos);
+    file.takePlace();
+  }
+  std::filesystem::current_path(before);
+  EXPECT_EQ(readFile(folder.file("a.mdb")), "");
+}
+
+TEST(NewFile, that_takes_no_place_leaves_what_was_there) {
+  const TempFolder folder;
+  const std::string place = folder.write("a.mdb", "the old one");
+  {
+    NewFile file(place);
+    file.write("half of a new");
+    file.close();
+  }
+  EXPECT_EQ(readFile(place), "the old one");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(NewFile, can_be_filled_by_others_before_it_takes_its_place) {
+  const TempFolder folder;
+  const std::string place = folder.write("a.mdb", "the old one");
+  NewFile file(place);
+  file.writeCopyOf(folder.write("template.mdb", std::string(700'000, 't')));
+  file.close();
+  appendToFile(file.path(), "filled");
+  file.takePlace();
+  EXPECT_EQ(readFile(place), std::string(700'000, 't') + "filled");
+  EXPECT_EQ(entriesIn(folder.path()), 2U);
+}
+
+TEST(NewFile, takes_no_place_that_was_protected_meanwhile) {
+  const TempFolder folder;
+  const std::string place = folder.write("a.mdb", "the old one");
+  {
+    NewFile file(place);
+    protect(place);
+    EXPECT_EQ(errorOf([&] { file.takePlace(); }).number, 70);
+  }
+  EXPECT_EQ(readFile(place), "the old one");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
 TEST(AppendToFile, adds_at_the_end_and_creates_what_is_missing) {
   const TempFolder folder;
   const std::string path = folder.file("log.csv");
@@ -212,11 +334,46 @@ TEST(GrowingFile, failures_are_errors_with_a_number) {
   EXPECT_EQ(errorOf([&] { GrowingFile{folder.path()}; }).number, 70);
 }
 
-TEST(GrowingFile, a_full_disk_is_noticed_at_the_latest_when_it_is_closed) {
+TEST(GrowingFile, replaces_a_link_and_never_what_it_leads_to) {
+  const TempFolder folder;
+  const std::string elsewhere = folder.write("elsewhere.txt", "not touched");
+  std::filesystem::create_symlink(elsewhere, folder.file("a.txt"));
+  GrowingFile file(folder.file("a.txt"));
+  file.write("new");
+  file.close();
+  EXPECT_EQ(readFile(elsewhere), "not touched");
+  EXPECT_EQ(readFile(folder.file("a.txt")), "new");
+}
+
+TEST(GrowingFile, of_a_name_that_another_one_takes_meanwhile_stays_whole) {
   const TempFolder folder;
   const std::string path = folder.file("a.txt");
-  std::filesystem::create_symlink("/dev/full", path);
-  GrowingFile file(path);
+  std::filesystem::create_hard_link(folder.write("keep.txt", ""), path);
+  GrowingFile one(path);
+  std::filesystem::create_hard_link(path, folder.file("one.txt"));
+  GrowingFile other(path);
+  one.write("one");
+  other.write("other");
+  one.close();
+  other.close();
+  EXPECT_EQ(readFile(folder.file("one.txt")), "one");
+  EXPECT_EQ(readFile(path), "other");
+  EXPECT_EQ(readFile(folder.file("keep.txt")), "");
+}
+
+TEST(GrowingFile, a_write_protected_file_of_its_name_stays) {
+  const TempFolder folder;
+  const std::string path = folder.write("a.txt", "the old text");
+  protect(path);
+  EXPECT_EQ(errorOf([&] { GrowingFile{path}; }).number, 70);
+  EXPECT_EQ(readFile(path), "the old text");
+  EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(GrowingFile, a_full_disk_is_noticed_at_the_latest_when_it_is_closed) {
+  const TempFolder folder;
+  const FileSizeLimit limit(0);
+  GrowingFile file(folder.file("a.txt"));
   EXPECT_EQ(errorOf([&] { file.write("small"); }).number, 0);
   EXPECT_EQ(errorOf([&] { file.close(); }).number, 61);
   file.write("small");

@@ -102,7 +102,42 @@ TEST_F(Batch, a_report_without_room_on_the_disk_ends_with_2_and_leaves_the_old_o
   EXPECT_NE(outcome.messages.find("checkFormatAndBasic: Erreur 61:Disk full: bad_val_outcome.txt"),
             std::string::npos);
   EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")), "the old report");
-  EXPECT_FALSE(std::filesystem::exists(folder.file("bad_val_outcome.txt.part")));
+  EXPECT_EQ(folder.names(),
+            (std::vector<std::string>{"bad.txt", "bad_val_outcome.txt", "err.log", "out.log"}));
+}
+
+TEST_F(Batch, a_write_protected_report_is_not_replaced_and_ends_with_2) {
+  folder.write("bad_val_outcome.txt", "the old report");
+  std::filesystem::permissions(folder.file("bad_val_outcome.txt"), std::filesystem::perms::owner_read);
+  folder.write("bad.txt", "");
+  const Outcome outcome = run("check --level 1 bad.txt");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "bad.txt\tstructure\n");
+  EXPECT_TRUE(
+      outcome.messages.ends_with("checkFormatAndBasic: Erreur 70:Permission denied: bad_val_outcome.txt\n"));
+  EXPECT_EQ(readFile(folder.file("bad_val_outcome.txt")), "the old report");
+}
+
+TEST_F(Batch, a_write_protected_database_is_not_replaced_and_ends_with_2) {
+  folder.write("good.mdb", "the old database");
+  std::filesystem::permissions(folder.file("good.mdb"), std::filesystem::perms::owner_read);
+  folder.write("good.txt", kGoodFile);
+  const Outcome outcome = run("load --level 1 good.txt");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "good.txt\tload\n");
+  EXPECT_NE(outcome.messages.find("Error 70 : Permission denied: good.mdb\n"), std::string::npos);
+  EXPECT_EQ(readFile(folder.file("good.mdb")), "the old database");
+}
+
+TEST_F(Batch, no_link_leads_what_is_written_elsewhere) {
+  folder.write("precious", "not touched");
+  for (const char* name : {"good.mdb", "good.mdb.part", "bad_val_outcome.txt", "bad_val_outcome.txt.part"})
+    std::filesystem::create_symlink("precious", folder.file(name));
+  folder.write("bad.txt", "");
+  folder.write("good.txt", kGoodFile);
+  EXPECT_EQ(run("check --level 1 bad.txt").output, "bad.txt\tstructure\tbad_val_outcome.txt\n");
+  EXPECT_EQ(run("load --level 1 good.txt").output, "good.txt\tok\n");
+  EXPECT_EQ(readFile(folder.file("precious")), "not touched");
 }
 
 TEST_F(Batch, a_file_is_loaded_and_its_notices_are_shown) {

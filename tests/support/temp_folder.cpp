@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -28,6 +29,14 @@ std::string TempFolder::write(std::string_view name, std::string_view content) c
   const std::string path = file(name);
   std::ofstream(path, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
   return path;
+}
+
+std::vector<std::string> TempFolder::names() const {
+  std::vector<std::string> all;
+  for (const auto& entry : std::filesystem::directory_iterator(path_))
+    all.push_back(entry.path().filename().string());
+  std::sort(all.begin(), all.end());
+  return all;
 }
 
 std::string readFile(const std::string& path) {

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zamo::test {
 
@@ -17,6 +18,8 @@ class TempFolder {
   std::string file(std::string_view name) const;
   // Writes a file into the folder and gives its path.
   std::string write(std::string_view name, std::string_view content) const;
+  // The names of what is in it, sorted.
+  std::vector<std::string> names() const;
 
  private:
   std::string path_;
