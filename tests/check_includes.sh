@@ -12,26 +12,28 @@ forbid() {
   fi
 }
 
-own='platform|model|noticefile|map|validation|database|widgets|query|screens|shell'
+own='platform|model|noticefile|jetfile|map|validation|database|widgets|query|screens|shell'
 qt='Q[A-Z]|Qt'
-forbid platform "(model|noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
-forbid model "(noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
-forbid noticefile "(map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
-forbid map "(model|noticefile|validation|database|query|screens|shell|widgets)/|$qt|sqlite3"
-forbid validation "(database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid platform "(jetfile|model|noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid model "(jetfile|noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid noticefile "(jetfile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid jetfile "(model|noticefile|map|validation|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
+forbid map "(jetfile|model|noticefile|validation|database|query|screens|shell|widgets)/|$qt|sqlite3"
+forbid validation "(jetfile|database|query|screens|shell|widgets)/|$qt|sqlite3|s2/"
 forbid database "(map|validation|query|screens|shell|widgets)/|$qt|s2/"
-forbid widgets "(model|noticefile|map|validation|database|query|screens|shell)/|sqlite3|s2/"
-forbid query "(map|validation|screens|shell)/|sqlite3|s2/"
-forbid screens "sqlite3|s2/"
+forbid widgets "(jetfile|model|noticefile|map|validation|database|query|screens|shell)/|sqlite3|s2/"
+forbid query "(jetfile|map|validation|screens|shell)/|sqlite3|s2/"
+forbid screens "jetfile/|sqlite3|s2/"
 forbid shell "sqlite3|s2/"
 [ -z "$(find "$src" -mindepth 1 -maxdepth 1 -type d | grep -vE "/($own)$")" ] || {
   echo "a folder under src/ that has no place in the house"
   status=1
 }
 
-# Nothing else knows the shell.
+# Nothing else knows the shell, and old files are opened in one place.
 for folder in "$src"/*/; do
   name=$(basename "$folder")
   [ "$name" = shell ] || forbid "$name" "shell/"
+  [ "$name" = jetfile ] || forbid "$name" "mdbtools|glib"
 done
 exit $status
