@@ -26,19 +26,18 @@ const Message kAddressCode("t_addr_code is none of the administration in the mas
 
 }  // namespace
 
-// A missing administration is told as a missing field, and nothing is looked up for it.
 void checkCountry(RuleReport& report, const NtcRec& ntc) {
   if (isAnyType(ntc, {"TB2", "TB5", "TB3"})) return;
   if (ntc.t_ctry.empty()) {
     report.fatal(kNoCountry);
-  } else if (!ntc.t_adm.empty() && !isCtryOfAdm(ntc.t_ctry, ntc.t_adm)) {
+  } else if (!isCtryOfAdm(ntc.t_ctry, ntc.t_adm)) {
     report.fatal(kForeignCountry, {ntc.t_adm, ntc.t_ctry});
   }
 }
 
 void checkGeoArea(RuleReport& report, const NtcRec& ntc) {
   const std::string& area = ntc.digital.allot.t_geo_area;
-  if (!isAnyType(ntc, {"GT2", "GS2"}) || area.empty() || ntc.t_adm.empty()) return;
+  if (!isAnyType(ntc, {"GT2", "GS2"}) || area.empty()) return;
   if (!isCtryOfAdm(area, ntc.t_adm)) {
     report.fatal(kForeignArea, {area, ntc.t_adm});
   } else if (!equalsIgnoringCase(area, ntc.t_ctry)) {

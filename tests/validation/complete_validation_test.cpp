@@ -200,6 +200,26 @@ TEST(CompleteValidation, a_notice_without_a_head_before_it_has_no_administration
                      " :  t_adm is a mandatory value (B)\r\n\r\n"}));
 }
 
+TEST(CompleteValidation, a_missing_administration_is_told_as_a_field_and_with_the_country) {
+  const Lines contour = {"<NOTICE>",          "t_notice_type = GA1",
+                         "t_ctry = SUI",      "t_contour_id = 7",
+                         "t_nb_test_pts = 3", "t_action = ADD",
+                         "<POINT>",           "t_long = +0070000",
+                         "t_lat = +470000",   "</POINT>",
+                         "<POINT>",           "t_long = +0073000",
+                         "t_lat = +470000",   "</POINT>",
+                         "<POINT>",           "t_long = +0070000",
+                         "t_lat = +473000",   "</POINT>",
+                         "</NOTICE>"};
+  EXPECT_EQ(validate(kHead + contour), (Outcome{true, ""}));
+  EXPECT_EQ(validate(contour + kHead),
+            (Outcome{false,
+                     "FATAL ERROR : \r\nNotice No : 1 at line number : 1 : Contour_id = 7"
+                     " :  t_adm is a mandatory value (B)\r\n\r\n"
+                     "FATAL ERROR : \r\nNotice No : 1 at line number : 1 : Contour_id = 7"
+                     " : t_adm =  cannot notify for t_ctry = SUI\r\n\r\n"}));
+}
+
 TEST(CompleteValidation, the_label_of_a_notice_carries_the_line_of_its_tag_and_its_identity) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"GA1", "Contour_id = 7"},         {"TB5", "Trg_Admin_ref_id = TRG"},

@@ -111,6 +111,21 @@ TEST(ReferenceRules, areas_are_found_in_any_case_and_told_as_notified) {
             failed(fatal(" : t_adm = dnk cannot notify for t_ctry = myt")));
 }
 
+TEST(ReferenceRules, a_missing_administration_notifies_for_no_country_and_no_area) {
+  for (const char* type : kTypesWithCountry) {
+    EXPECT_EQ(judge(noticeOf(type, "", "AUT")), failed(fatal(" : t_adm =  cannot notify for t_ctry = AUT")))
+        << type;
+    EXPECT_EQ(judge(noticeOf(type, "", "")), failed(fatal(" : t_ctry is empty cannot validate"))) << type;
+  }
+  for (const char* type : kTypesWithoutCountry) EXPECT_EQ(judge(noticeOf(type, "", "AUT")), kPassed) << type;
+  for (const char* type : {"GT2", "GS2"}) {
+    EXPECT_EQ(judge(allotmentOf("", "AUT", "AUT", type)),
+              failed(fatal(" : t_adm =  cannot notify for t_ctry = AUT") +
+                     fatal(" : t_geo_area = AUT does not belong to t_adm = ")))
+        << type;
+  }
+}
+
 TEST(ReferenceRules, an_empty_country_is_told_and_not_looked_up) {
   for (const char* type : kTypesWithCountry) {
     EXPECT_EQ(judge(noticeOf(type, "AUT", "")), failed(fatal(" : t_ctry is empty cannot validate"))) << type;
@@ -371,16 +386,6 @@ TEST(AgencyAndAddress, a_template_that_is_missing_ends_the_group_with_its_error)
     EXPECT_EQ(error.number, 53);
     EXPECT_EQ(error.text, "File not found");
   }
-  EXPECT_EQ(errs, "");
-}
-
-TEST(ReferenceRules, a_missing_administration_is_not_looked_up_again) {
-  NtcRec ntc;
-  ntc.t_notice_type = "GT2";
-  ntc.t_ctry = "F";
-  ntc.digital.allot.t_geo_area = "F";
-  std::string errs;
-  EXPECT_TRUE(checkNtcRefs(ntc, errs, "label"));
   EXPECT_EQ(errs, "");
 }
 
