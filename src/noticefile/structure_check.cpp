@@ -5,7 +5,6 @@
 #include "noticefile/lines.h"
 #include "platform/code_page.h"
 #include "platform/message.h"
-#include "platform/run_time_error.h"
 #include "platform/text.h"
 
 namespace zamo {
@@ -54,13 +53,17 @@ bool checkSection(LineSource& lines, std::string& errText, std::string_view tag,
 
 }  // namespace
 
+StageResult tellStageError(const Host& host, std::string_view stage, const RunTimeError& error) {
+  showRunTimeError(host, error.number, stage, error.text);
+  return {false, true, isFileError(error.number)};
+}
+
 StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName) {
   try {
     LineSource lines(fileName);
     return {checkStructureOfLines(lines, errText, textFromUtf8(fileName))};
   } catch (const RunTimeError& error) {
-    showRunTimeError(host, error.number, "Validate File format", error.text);
-    return {false, true};
+    return tellStageError(host, "Validate File format", error);
   }
 }
 

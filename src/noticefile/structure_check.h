@@ -2,9 +2,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "noticefile/line_source.h"
 #include "platform/host.h"
+#include "platform/run_time_error.h"
 
 namespace zamo {
 
@@ -13,7 +15,11 @@ namespace zamo {
 struct StageResult {
   bool passed = false;
   bool machineFailed = false;
+  bool unreadable = false;  // that error is the file's own: it can't be opened or read
 };
+
+// The result of a stage that an error of the machine ended. The user is told in the box of the stage.
+StageResult tellStageError(const Host& host, std::string_view stage, const RunTimeError& error);
 
 // Whether the file holds exactly one <HEAD>, exactly one <TAIL> and at least one <NOTICE>, each section
 // closed. `errText` takes what is wrong, or the count of notices when nothing is.

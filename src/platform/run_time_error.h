@@ -21,6 +21,12 @@ struct RunTimeError {
   std::string text;
 };
 
+// Whether the operating system gave it for a file, when that was opened, read or written.
+constexpr bool isFileError(int number) {
+  return number == kFileNotFound || number == kDeviceError || number == kDiskFull ||
+         number == kPermissionDenied;
+}
+
 // The error of a failed system call on `path`, from the system's own number.
 RunTimeError fileError(int systemError, const std::string& path);
 

@@ -94,7 +94,7 @@ void tellFailure(Shell& shell, Verdict& verdict, const FailedStage& failed, cons
   showValidationButtons(shell, true);
   showStatus(shell, failed.status.words());
   // The user has been told already why there is nothing to report.
-  if (result.machineFailed && findings.empty()) return;
+  if (result.unreadable && findings.empty()) return;
   const std::string report = outcomeReportPath(shell.run.NtcFileName);
   writeReport(report, reportItems);
   verdict.report = report;

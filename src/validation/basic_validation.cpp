@@ -21,8 +21,7 @@ StageResult runBasicValidation(const Host& host, std::string& report, std::int64
     return {validateLines(host, lines, report, noticesRead,
                           withFileName ? textFromUtf8(filePath) : std::string())};
   } catch (const RunTimeError& error) {
-    showRunTimeError(host, error.number, "Validate Notice", error.text);
-    return {false, true};
+    return tellStageError(host, "Validate Notice", error);
   }
 }
 

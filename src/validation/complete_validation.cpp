@@ -97,8 +97,7 @@ StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& re
     LineSource lines(filePath);
     return {validateNotices(host, lines, ntc, report, map, lookups)};
   } catch (const RunTimeError& error) {
-    showRunTimeError(host, error.number, "Backend Validation", error.text);
-    return {false, true};
+    return tellStageError(host, "Backend Validation", error);
   }
 }
 

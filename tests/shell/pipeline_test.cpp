@@ -198,6 +198,41 @@ TEST_F(Pipeline, a_file_of_bad_values_never_reaches_complete_validation) {
   EXPECT_EQ(script.statuses.back(), "Basic validation has errors. Please correct and re-validate to proceed");
 }
 
+// Basic validation lets all of them pass: the head behind a notice wipes out what was found in it.
+TEST_F(Pipeline, an_error_that_the_content_makes_before_any_finding_leaves_the_heading_alone) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"t_notice_type = GA1\r\n<POINT>\r\nt_long = +0021000\r\n</POINT>\r\n",
+       "Erreur 9:Subscript out of range"},
+      {"t_notice_type = GA1\r\nt_nb_test_pts = 40000\r\n", "Erreur 6:Overflow"},
+      {"t_notice_type = TB3\r\nt_d_inuse = soon\r\nt_d_expiry = 2026-01-01\r\n", "Erreur 13:Type mismatch"},
+  };
+  shell.run.ValLevel = kCompleteWithoutGeo;
+  for (const auto& [body, text] : cases) {
+    SCOPED_TRACE(text);
+    script.boxes.clear();
+    script.viewed.clear();
+    shell.run.NtcFileName =
+        folder.write("early.txt", std::string("<NOTICE>\r\n")
+                                      .append(body)
+                                      .append("</NOTICE>\r\n<HEAD>\r\nt_adm = F\r\n</HEAD>\r\n"
+                                              "<TAIL>\r\nt_num_notices = 1\r\n</TAIL>\r\n"));
+    const Verdict verdict = judgeFile(shell);
+    EXPECT_EQ(verdict.failedAt, Stage::complete);
+    EXPECT_TRUE(verdict.mayLoad);
+    EXPECT_EQ(verdict.report, folder.file("early_val_outcome.txt"));
+    EXPECT_EQ(
+        readFile(folder.file("early_val_outcome.txt")),
+        "Basic Validation OK\r\n"
+        "Complete Validation WITHOUT the validation of the geographical coordination against the GZMP\r\n"
+        "\r\n");
+    EXPECT_THAT(script.viewed, ElementsAre(folder.file("early_val_outcome.txt")));
+    ASSERT_EQ(script.boxes.size(), 1U);
+    EXPECT_EQ(script.boxes[0].text, text);
+    EXPECT_EQ(script.boxes[0].title, "Backend Validation");
+    std::filesystem::remove(folder.file("early_val_outcome.txt"));
+  }
+}
+
 TEST_F(Pipeline, an_administration_with_a_quote_breaks_the_lookup_and_ends_the_stage_with_its_box) {
   shell.run.NtcFileName = folder.write("quote.txt",
                                        "<HEAD>\r\nt_adm = F'\r\n</HEAD>\r\n"
