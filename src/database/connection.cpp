@@ -3,14 +3,24 @@
 #include <sqlite3.h>
 
 #include <filesystem>
+#include <utility>
 
+#include "database/row_cursor.h"
+#include "database/untrusted_file.h"
 #include "platform/code_page.h"
+#include "platform/message.h"
 #include "platform/numbers.h"
 
 namespace zamo {
 namespace {
 
-constexpr int kBusyMilliseconds = 200;
+// clang-format off
+const Message kNotWorking("box of the operation, behind number 26: the file keeps the engine busy without end", "not a working database");
+const Message kNoPlainTable("box \"OpenDB\", behind number 26: a table of the file is none, or computes something; its name", "not a working database: %1");
+// clang-format on
+
+// How long a database is waited for that another program is working on.
+constexpr int kBusyMilliseconds = 2000;
 
 // A value as the grid shows it: a Null as an empty text, a number in its shortest form.
 void shownText(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
@@ -37,11 +47,16 @@ std::string absolutePath(const std::string& path) {
   return absolute;
 }
 
-}  // namespace
-
+// The engine's last error.
 RunTimeError engineError(sqlite3* database) {
   return {sqlite3_extended_errcode(database), textFromUtf8(sqlite3_errmsg(database))};
 }
+
+RunTimeError noWorkingDatabase(const Message& message, std::string_view table = {}) {
+  return {SQLITE_NOTADB, message.filled({table})};
+}
+
+}  // namespace
 
 void FinalizeStatement::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
@@ -54,13 +69,18 @@ Connection::Connection(const std::string& path) : path_(path) {
   const int result = sqlite3_open_v2(absolutePath(path).c_str(), &database, flags, nullptr);
   database_.reset(database);
   if (result != SQLITE_OK) throw engineError(database);
+  restrictEngine(database);
+  limit_.emplace(database);
   sqlite3_busy_timeout(database, kBusyMilliseconds);
-  // The engine doesn't look at the file before the first statement.
-  run("PRAGMA foreign_keys = ON; SELECT count(*) FROM sqlite_schema");
-  if (sqlite3_create_function(database, "shown_text", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                              shownText, nullptr, nullptr) != SQLITE_OK) {
-    throw engineError(database);
+  run("PRAGMA foreign_keys = ON; PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
+  constexpr int traits = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
+  if (sqlite3_create_function(database, "shown_text", 1, traits, nullptr, shownText, nullptr, nullptr) !=
+      SQLITE_OK) {
+    throw failure();
   }
+  // The engine doesn't look at the file before the first statement.
+  requirePlainTables();
+  limit_->allowWork();
 }
 
 Connection::~Connection() {
@@ -120,8 +140,7 @@ void Connection::openTable(std::string_view name) {
   for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
   const std::string sql = "SELECT * FROM \"" + utf8FromText(quoted) + "\"";
   sqlite3_stmt* prepared = nullptr;
-  if (sqlite3_prepare_v2(handle(), sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK)
-    throw engineError(handle());
+  if (sqlite3_prepare_v2(handle(), sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK) throw failure();
   const Statement statement(prepared);
   openedTables_.emplace(name);
 }
@@ -135,7 +154,7 @@ sqlite3_stmt* Connection::changing(const std::string& sql) {
     sqlite3_stmt* prepared = nullptr;
     if (sqlite3_prepare_v3(handle(), sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &prepared, nullptr) !=
         SQLITE_OK) {
-      throw engineError(handle());
+      throw failure();
     }
     kept.reset(prepared);
   }
@@ -149,17 +168,31 @@ std::shared_ptr<PreparedSelect>& Connection::keptSelect(std::string_view sql) {
   return found != keptSelects_.end() ? found->second : keptSelects_[std::string(sql)];
 }
 
-void Connection::run(const char* sql) {
-  if (sqlite3_exec(handle(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) throw engineError(handle());
+RunTimeError Connection::failure() {
+  if (!limit_->wasReached()) return engineError(handle());
+  return std::exchange(toldOfLimit_, true) ? RunTimeError{} : noWorkingDatabase(kNotWorking);
 }
 
-ReadingOneState::ReadingOneState(Connection& connection) : database_(connection.handle()) {
-  if (sqlite3_exec(database_, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK) throw engineError(database_);
+void Connection::run(const char* sql) {
+  if (limit_->run(sql) != SQLITE_OK) throw failure();
+}
+
+void Connection::requirePlainTables() {
+  for (RowCursor rows("SELECT type, tbl_name, sql FROM sqlite_schema", *this); rows.next();) {
+    const std::string table = rows.value(1).value_or("");
+    if (!isPlainEntry(rows.value(0).value_or(""), table, rows.value(2).value_or("")))
+      throw noWorkingDatabase(kNoPlainTable, table);
+  }
+}
+
+ReadingOneState::ReadingOneState(Connection& connection) : connection_(connection) {
+  if (sqlite3_exec(connection_.handle(), "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
+    throw connection_.failure();
 }
 
 ReadingOneState::~ReadingOneState() {
   // There is nothing to store; an error has ended it already.
-  sqlite3_exec(database_, "COMMIT", nullptr, nullptr, nullptr);
+  sqlite3_exec(connection_.handle(), "COMMIT", nullptr, nullptr, nullptr);
 }
 
 }  // namespace zamo

@@ -4,21 +4,20 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "database/step_limit.h"
 #include "platform/run_time_error.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 namespace zamo {
-
-// The engine's last error on a connection.
-RunTimeError engineError(sqlite3* database);
 
 struct FinalizeStatement {
   void operator()(sqlite3_stmt* statement) const;
@@ -37,7 +36,8 @@ struct PreparedSelect {
 // Every failure is thrown as a RunTimeError with the engine's number and text.
 class Connection {
  public:
-  // Opens an existing database file; it is never created. A file that is no database fails here.
+  // Opens an existing database file; it is never created. A file that is no database fails here, and one
+  // whose tables are something else than tables.
   explicit Connection(const std::string& path);
   Connection(const Connection&) = delete;
   Connection& operator=(const Connection&) = delete;
@@ -66,6 +66,15 @@ class Connection {
   // Where a SELECT that is asked again and again is kept, by its text; empty until one is put there.
   std::shared_ptr<PreparedSelect>& keptSelect(std::string_view sql);
 
+  // Takes a statement to its next row, with the engine's result.
+  int step(sqlite3_stmt* statement) { return limit_->step(statement); }
+
+  // What the engine's last call failed with. When the file has kept the engine busy for too long it is no
+  // working database: that is told once, and what fails after it bears the number 0.
+  RunTimeError failure();
+  // That was told.
+  bool isGivenUp() const { return limit_->wasReached(); }
+
   sqlite3* handle() { return database_.get(); }
 
  private:
@@ -74,14 +83,17 @@ class Connection {
   };
 
   void run(const char* sql);
+  void requirePlainTables();
 
   std::string path_;
   std::unique_ptr<sqlite3, Close> database_;
+  std::optional<StepLimit> limit_;
   std::unordered_map<std::string, Statement> changing_;
   std::map<std::string, std::shared_ptr<PreparedSelect>, std::less<>> keptSelects_;
   std::set<std::string, std::less<>> openedTables_;
   bool inTransaction_ = false;
   bool journalIsSet_ = false;
+  bool toldOfLimit_ = false;
 };
 
 // All that is read while it lives is of one state of the database, and the file is locked once and not for
@@ -94,7 +106,7 @@ class ReadingOneState {
   ~ReadingOneState();
 
  private:
-  sqlite3* database_;
+  Connection& connection_;
 };
 
 }  // namespace zamo

@@ -149,6 +149,7 @@ bool writeNtcsToTxt(const Host& host, WrittenFile& file, const std::vector<std::
       resetAdm(ntc);
       // What can't be read of a notice has been told; the rest of it is written.
       (areContours ? readContourNtcFromDB : readNtcFromDB)(host, key, ntc, connection);
+      if (connection.isGivenUp()) return false;
       if (!hasTheAdministration(host, file, ntc)) return false;
       writeHead(file, ntc);
       const std::int32_t number = file.nextNumber++;

@@ -93,11 +93,11 @@ void Recordset::readRows() {
   const int firstField = select_->firstField();
   const int end = firstField + static_cast<int>(select_->fields.size());
   int result = SQLITE_DONE;
-  while ((result = sqlite3_step(statement)) == SQLITE_ROW) {
+  while ((result = connection_->step(statement)) == SQLITE_ROW) {
     rows_.push_back({firstField == 0 ? 0 : sqlite3_column_int64(statement, 0), false});
     for (int column = firstField; column < end; ++column) values_.push_back(columnText(statement, column));
   }
-  if (result != SQLITE_DONE) throw engineError(connection_->handle());
+  if (result != SQLITE_DONE) throw connection_->failure();
 }
 
 std::int64_t Recordset::RecordCount() const {
@@ -261,7 +261,7 @@ void Recordset::runChange(const std::string& sql, const std::vector<Pending>& va
   }
   if (rowid) sqlite3_bind_int64(statement, place + 1, *rowid);
   const ResetAtEnd reset(statement);
-  if (sqlite3_step(statement) != SQLITE_DONE) throw engineError(connection_->handle());
+  if (connection_->step(statement) != SQLITE_DONE) throw connection_->failure();
 }
 
 }  // namespace zamo

@@ -13,9 +13,9 @@ RowCursor::RowCursor(std::string_view sql, Connection& connection)
     : connection_(&connection), statement_(prepareSelect(utf8FromText(engineSql(sql)), 0, connection)) {}
 
 bool RowCursor::next() {
-  const int result = sqlite3_step(statement_.get());
+  const int result = connection_->step(statement_.get());
   if (result == SQLITE_ROW) return true;
-  if (result != SQLITE_DONE) throw engineError(connection_->handle());
+  if (result != SQLITE_DONE) throw connection_->failure();
   return false;
 }
 

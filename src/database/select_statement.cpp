@@ -26,7 +26,7 @@ Statement prepareSelect(const std::string& engineSelect, unsigned flags, Connect
   const char* tail = nullptr;
   if (sqlite3_prepare_v3(connection.handle(), engineSelect.c_str(), static_cast<int>(engineSelect.size()),
                          flags, &prepared, &tail) != SQLITE_OK) {
-    throw engineError(connection.handle());
+    throw connection.failure();
   }
   Statement statement(prepared);
   const char* const end = engineSelect.c_str() + engineSelect.size();

@@ -65,4 +65,9 @@ class RawDatabase {
   sqlite3* database_ = nullptr;
 };
 
+// Tests put faults into tables by triggers, which a connection never runs by itself.
+inline void letTriggersRun(sqlite3* database) {
+  sqlite3_db_config(database, SQLITE_DBCONFIG_ENABLE_TRIGGER, 1, nullptr);
+}
+
 }  // namespace zamo::test

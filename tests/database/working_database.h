@@ -19,6 +19,7 @@ class WorkingDatabase : public testing::Test {
  protected:
   explicit WorkingDatabase(std::string_view name = "working.mdb") : path(copyTemplate(folder, name)) {
     raw.run("PRAGMA synchronous = OFF");
+    letTriggersRun(connection.handle());
   }
 
   // One box without an icon, and nothing else was told or asked.

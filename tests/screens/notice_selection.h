@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "database/raw_database.h"
 #include "database/read_notice.h"
 #include "database/write_notice.h"
 #include "model/ntc_reset.h"
@@ -45,6 +46,7 @@ class NoticeSelection : public testing::Test {
     run.DbFileName = folder.file("notices.mdb");
     std::filesystem::copy_file(ZAMO_BIN "/MasterHDLK_WQN.mdb", run.DbFileName);
     run.DbConn = std::make_unique<Connection>(run.DbFileName);
+    letTriggersRun(run.DbConn->handle());
     run.ValLevel = kCompleteWithGeo;
     work.agencies = {[this](std::string_view, std::string_view) { return agenciesKnown; },
                      [this](std::string_view, std::string_view) { return agenciesKnown; }};

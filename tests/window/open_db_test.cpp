@@ -86,6 +86,16 @@ TEST_F(OpenDb, tells_of_a_file_that_is_no_database_and_the_file_menu_works_on) {
   expectNoBox();
 }
 
+TEST_F(OpenDb, tells_once_of_a_view_that_stands_for_a_table) {
+  raw.run(
+      "DROP TABLE fmtv_rmks; CREATE VIEW fmtv_rmks AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + "
+      "1 "
+      "FROM n) SELECT i AS vornakey FROM n WHERE i < 0");
+  openDatabase();
+  expectOneBox("Erreur 26:not a working database: fmtv_rmks", "OpenDB", BoxIcon::none);
+  expectNothingOpen();
+}
+
 TEST_F(OpenDb, tells_any_other_error_with_its_number) {
   shell.host.openFile = [](const OpenFileRequest&) -> std::optional<std::string> {
     throw RunTimeError{71, "Disk not ready"};
