@@ -25,6 +25,15 @@ forbid widgets "(jetfile|model|noticefile|map|validation|database|query|screens|
 forbid query "(jetfile|map|validation|screens|shell)/|sqlite3|s2/"
 forbid screens "jetfile/|sqlite3|s2/"
 forbid shell "sqlite3|s2/"
+
+# What an operating system has of its own: in platform/ alone, and there in one file a system.
+system='(unistd|fcntl|dirent|poll|pwd|grp|signal|spawn|termios|dlfcn|pthread|windows)\.h|sys/|linux/|netinet/'
+own_of_a_system='/platform/[a-z_]+_(posix|windows)\.cpp:'
+if grep -rnE "#include +[<\"]($system)" "$src" --include='*.h' --include='*.cpp' | grep -vE "$own_of_a_system"; then
+  echo "^ allowed in platform/*_posix.cpp and the like alone"
+  status=1
+fi
+
 [ -z "$(find "$src" -mindepth 1 -maxdepth 1 -type d | grep -vE "/($own)$")" ] || {
   echo "a folder under src/ that has no place in the house"
   status=1

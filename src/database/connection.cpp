@@ -8,6 +8,7 @@
 #include "database/row_cursor.h"
 #include "database/untrusted_file.h"
 #include "platform/code_page.h"
+#include "platform/files.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
 
@@ -63,6 +64,8 @@ void FinalizeStatement::operator()(sqlite3_stmt* statement) const {
 }
 
 Connection::Connection(const std::string& path) : path_(path) {
+  // The engine would wait for whoever is at the other end of a pipe.
+  for (const char* ending : {"", "-journal", "-wal", "-shm"}) requireNoDevice(path + ending);
   sqlite3* database = nullptr;
   // Everything runs on one thread.
   constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;

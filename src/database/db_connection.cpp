@@ -4,6 +4,7 @@
 #include "platform/files.h"
 #include "platform/message.h"
 #include "platform/run_time_error.h"
+#include "platform/system.h"
 
 namespace zamo {
 namespace {

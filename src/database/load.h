@@ -13,6 +13,9 @@
 
 namespace zamo {
 
+// What the longest name of a file that a load leaves has behind the base of the notice file.
+inline constexpr std::string_view kLongestEndingOfLoad = "_duplicat_report_31122000-235959.txt";
+
 struct LoadRun {
   NtcRec& ntc;                     // the work area; its administration is that of the last <HEAD> read
   const std::string& ntcFileName;  // the path, from which the report gets its name

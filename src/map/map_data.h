@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "map/map_file.h"
-#include "map/mapped_file.h"
+#include "platform/mapped_file.h"
 
 namespace zamo {
 

@@ -1,15 +1,11 @@
 #include "noticefile/line_source.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
-#include <utility>
 
 #include "noticefile/lines.h"
 #include "platform/code_page.h"
+#include "platform/message.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
 
@@ -19,17 +15,14 @@ namespace {
 constexpr std::size_t kFirstBufferSize = 256 * std::size_t{1024};
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
+const Message kLineTooLong("box, number 7: a line of a notice file is too long; its number",
+                           "Out of memory: line %1 is longer than 1 MB");
+
 }  // namespace
 
-LineSource::LineSource(const std::string& path) : path_(path), buffer_(kFirstBufferSize, '\0') {
-  descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor_ < 0) throw fileError(errno, path_);
-  try {
-    while (end_ <= kUtf8Mark.size() && !wholeFileRead_) fill();
-  } catch (...) {
-    ::close(descriptor_);
-    throw;
-  }
+LineSource::LineSource(const std::string& path)
+    : file_(OpenFile::forReading(path)), buffer_(kFirstBufferSize, '\0') {
+  while (end_ <= kUtf8Mark.size() && !wholeFileRead_) fill();
   skipUtf8Mark();
 }
 
@@ -40,23 +33,6 @@ LineSource LineSource::ofText(std::string_view text) {
   source.wholeFileRead_ = true;
   source.skipUtf8Mark();
   return source;
-}
-
-LineSource::LineSource(LineSource&& other) noexcept
-    : path_(std::move(other.path_)),
-      descriptor_(std::exchange(other.descriptor_, -1)),
-      buffer_(std::move(other.buffer_)),
-      next_(other.next_),
-      end_(other.end_),
-      lineFeed_(other.lineFeed_),
-      carriageReturn_(other.carriageReturn_),
-      wholeFileRead_(other.wholeFileRead_),
-      utf8_(other.utf8_),
-      exhausted_(other.exhausted_),
-      lineNo_(other.lineNo_) {}
-
-LineSource::~LineSource() {
-  if (descriptor_ >= 0) ::close(descriptor_);
 }
 
 std::string_view LineSource::nextLine() {
@@ -72,6 +48,8 @@ std::string_view LineSource::nextLine() {
     if (carriageReturn_ < next_) carriageReturn_ = find('\r', next_);
     stop = std::min(lineFeed_, carriageReturn_);
     after = std::min(stop + (carriageReturn_ + 1 == lineFeed_ ? 2 : 1), end_);
+    if (stop - next_ > kLongestLine)
+      throw RunTimeError{kOutOfMemory, kLineTooLong.filled({std::to_string(lineNo_)})};
     // A byte behind the line end is wanted too: it tells a CR from a CR LF, and whether this was the last
     // line.
     if (after < end_ || wholeFileRead_) break;
@@ -96,13 +74,9 @@ void LineSource::fill() {
     next_ = 0;
   }
   if (end_ == buffer_.size()) buffer_.resize(2 * buffer_.size());
-  ssize_t count = 0;
-  do {
-    count = ::read(descriptor_, buffer_.data() + end_, buffer_.size() - end_);
-  } while (count < 0 && errno == EINTR);
-  if (count < 0) throw fileError(errno, path_);
+  const std::size_t count = file_->read(buffer_.data() + end_, buffer_.size() - end_);
   wholeFileRead_ = count == 0;
-  takeIn(static_cast<std::size_t>(count));
+  takeIn(count);
 }
 
 void LineSource::takeIn(std::size_t count) {

@@ -1,23 +1,29 @@
-// The lines of a notice file, read through once with memory for no more than its longest line.
+// The lines of a notice file, read through once. Memory is bounded, whatever the file holds.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "platform/open_file.h"
+
 namespace zamo {
 
+// The most bytes of a line.
+inline constexpr std::size_t kLongestLine = 1024 * std::size_t{1024};
+
 // CR LF, a lone LF and a lone CR each end a line. A file that begins with a UTF-8 byte order mark is taken as
-// UTF-8 and its lines are given in the code page. Every failure to open or read is thrown as a RunTimeError.
+// UTF-8 and its lines are given in the code page. Every failure to open or read and a line that is too long
+// are thrown as a RunTimeError.
 class LineSource {
  public:
   explicit LineSource(const std::string& path);
   // Lines from memory, read as those of a file would be.
   static LineSource ofText(std::string_view text);
-  LineSource(LineSource&& other) noexcept;
+  LineSource(LineSource&& other) = default;
   LineSource& operator=(LineSource&&) = delete;
-  ~LineSource();
 
   // True when no byte is left.
   bool atEnd() const { return next_ == end_; }
@@ -38,8 +44,7 @@ class LineSource {
   void skipUtf8Mark();
   std::string_view inCodePage(std::string_view line);
 
-  std::string path_;
-  int descriptor_ = -1;
+  std::optional<OpenFile> file_;  // none for lines from memory
   std::string buffer_;
   std::size_t next_ = 0;      // the first byte not yet given
   std::size_t end_ = 0;       // behind the last byte read

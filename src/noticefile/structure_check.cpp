@@ -55,15 +55,16 @@ bool checkSection(LineSource& lines, std::string& errText, std::string_view tag,
 
 StageResult tellStageError(const Host& host, std::string_view stage, const RunTimeError& error) {
   showRunTimeError(host, error.number, stage, error.text);
-  return {false, true, isFileError(error.number)};
+  return {false, true, isFileError(error.number) || error.number == kOutOfMemory};
 }
 
-StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName) {
+StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName,
+                               const std::string& title) {
   try {
     LineSource lines(fileName);
-    return {checkStructureOfLines(lines, errText, textFromUtf8(fileName))};
-  } catch (const RunTimeError& error) {
-    return tellStageError(host, "Validate File format", error);
+    return {checkStructureOfLines(lines, errText, textFromUtf8(title))};
+  } catch (...) {
+    return tellStageError(host, "Validate File format", presentError());
   }
 }
 

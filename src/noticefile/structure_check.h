@@ -15,7 +15,7 @@ namespace zamo {
 struct StageResult {
   bool passed = false;
   bool machineFailed = false;
-  bool unreadable = false;  // that error is the file's own: it can't be opened or read
+  bool unreadable = false;  // by that error the file can't be opened or read to its end
 };
 
 // The result of a stage that an error of the machine ended. The user is told in the box of the stage.
@@ -23,7 +23,12 @@ StageResult tellStageError(const Host& host, std::string_view stage, const RunTi
 
 // Whether the file holds exactly one <HEAD>, exactly one <TAIL> and at least one <NOTICE>, each section
 // closed. `errText` takes what is wrong, or the count of notices when nothing is.
-StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName);
+// The messages call the file `title`.
+StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName,
+                               const std::string& title);
+inline StageResult checkFileStructure(const Host& host, std::string& errText, const std::string& fileName) {
+  return checkFileStructure(host, errText, fileName, fileName);
+}
 
 // The same on lines; `fileName` stands in the messages. Throws RunTimeError.
 bool checkStructureOfLines(LineSource& lines, std::string& errText, std::string_view fileName);

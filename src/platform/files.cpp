@@ -28,6 +28,12 @@ std::string nameNobodyHas(const std::string& place) {
   return path.replace_filename(name + ".part").string();
 }
 
+template <typename Taker>
+void readAll(const OpenFile& file, Taker take) {
+  std::string part(kCopyBuffer, '\0');
+  while (const std::size_t count = file.read(part.data(), part.size())) take({part.data(), count});
+}
+
 }  // namespace
 
 bool fileExists(const std::string& path, const Yield& yield) {
@@ -59,9 +65,7 @@ void NewFile::write(std::string_view content) {
 }
 
 void NewFile::writeCopyOf(const std::string& from) {
-  const OpenFile source = OpenFile::forReading(from);
-  std::string part(kCopyBuffer, '\0');
-  while (const std::size_t count = source.read(part.data(), part.size())) write({part.data(), count});
+  readAll(OpenFile::forReading(from), [this](std::string_view part) { write(part); });
 }
 
 void NewFile::close() {
@@ -88,6 +92,24 @@ bool isSameFile(const std::string& one, const std::string& other) {
 
 void requireReadable(const std::string& path) {
   OpenFile::forReading(path);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+void keepStandardInput(const std::string& path) {
+  NewFile file(path);
+  readAll(OpenFile::standardInput(), [&file](std::string_view part) { file.write(part); });
+  file.close();
+  file.takePlace();
+}
+
+std::string contentOf(const std::string& path) {
+  std::string content;
+  readAll(OpenFile::forReading(path), [&content](std::string_view part) { content += part; });
+  return content;
 }
 
 void appendToFile(const std::string& path, std::string_view content) {

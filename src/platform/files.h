@@ -48,6 +48,13 @@ void replaceFile(const std::string& path, std::string_view content);
 // only the link is replaced.
 void requireReplaceable(const std::string& path);
 
+// Throws RunTimeError when the path leads to what can be waited for without end or has no place on a disk: a
+// pipe, a device, another name for what a program has open. Folders and what isn't there pass.
+void requireNoDevice(const std::string& path);
+
+// Throws RunTimeError when the path is too long for a file to have.
+void requireNameable(const std::string& path);
+
 // Whether both paths lead to one file.
 bool isSameFile(const std::string& one, const std::string& other);
 
@@ -61,6 +68,28 @@ void requireRemovable(const std::string& path);
 // returns.
 void removeFile(const std::string& path);
 void renameFile(const std::string& from, const std::string& to);
+
+// A folder of its own for what is needed for a while; it goes with this object and all that is in it. Throws
+// RunTimeError.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder();
+
+  const std::string& path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+// Reads what the program is given on its standard input to its end and makes a file of it. Throws
+// RunTimeError.
+void keepStandardInput(const std::string& path);
+
+// The bytes of a file. Throws RunTimeError.
+std::string contentOf(const std::string& path);
 
 // Adds `content` at the end of the file, which is created if need be. Throws RunTimeError.
 void appendToFile(const std::string& path, std::string_view content);
@@ -89,8 +118,5 @@ class GrowingFile {
 
 // A path less its last four characters, whatever they are.
 std::string baseOf(std::string_view path);
-
-// The folder of the running executable, without a separator at its end.
-std::string executableFolder();
 
 }  // namespace zamo

@@ -1,9 +1,11 @@
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -11,20 +13,13 @@
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/run_time_error.h"
+#include "platform/uninterrupted.h"
 
 namespace zamo {
 namespace {
 
 constexpr mode_t kForAllWithinTheMask = 0666;
 constexpr mode_t kAnyoneWrites = S_IWUSR | S_IWGRP | S_IWOTH;
-
-// What `call` gives, once no signal has interrupted it.
-template <typename Call>
-auto uninterrupted(Call call) {
-  auto result = call();
-  while (result == -1 && errno == EINTR) result = call();
-  return result;
-}
 
 // Below 0 on failure.
 int descriptorOf(const std::string& path, int flags) {
@@ -42,9 +37,28 @@ bool isOnDisk(int descriptor) {
   return uninterrupted([descriptor] { return ::fsync(descriptor); }) == 0 || errno == EINVAL;
 }
 
+RunTimeError noFileError(const std::string& path) {
+  return {kPermissionDenied, "Not a regular file: " + textFromUtf8(path)};
+}
+
 void requireFile(mode_t mode, const std::string& path) {
   if (S_ISDIR(mode)) throw fileError(EISDIR, path);
-  if (!S_ISREG(mode)) throw RunTimeError{kPermissionDenied, "Not a regular file: " + textFromUtf8(path)};
+  if (!S_ISREG(mode)) throw noFileError(path);
+}
+
+// Whether the path is a name for what a program has open, as /dev/stdin is. It can lead to a regular file,
+// but stands in no folder where something could be put beside it.
+bool namesDescriptor(std::filesystem::path path) {
+  constexpr int kMostLinks = 40;
+  for (int i = 0; i < kMostLinks; ++i) {
+    std::error_code error;
+    const auto folder = std::filesystem::canonical(path.has_parent_path() ? path.parent_path() : ".", error);
+    if (folder == "/dev" || folder == "/dev/fd" || folder.string().starts_with("/proc/")) return true;
+    const auto target = std::filesystem::read_symlink(folder / path.filename(), error);
+    if (error) return false;
+    path = folder / target;
+  }
+  return false;
 }
 
 void flushFolderOf(const std::string& path) {
@@ -73,6 +87,8 @@ RunTimeError fileError(int systemError, const std::string& path) {
     case EISDIR:
     case ETXTBSY:
       return {kPermissionDenied, "Permission denied" + where};
+    case ENXIO:  // a socket, or a device that isn't there
+      return {kPermissionDenied, "Not a regular file" + where};
     case ENOSPC:
     case EDQUOT:
     case EFBIG:
@@ -90,7 +106,14 @@ OpenFile OpenFile::forReading(const std::string& path) {
   struct stat status {};
   if (::fstat(static_cast<int>(file.handle_), &status) != 0) throw fileError(errno, path);
   requireFile(status.st_mode, path);
+  if (namesDescriptor(path)) throw noFileError(path);
   return file;
+}
+
+OpenFile OpenFile::standardInput() {
+  const int descriptor = ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+  if (descriptor < 0) throw fileError(errno, "-");
+  return {"-", descriptor};
 }
 
 OpenFile OpenFile::forAppending(const std::string& path) {
@@ -118,9 +141,14 @@ OpenFile::~OpenFile() {
 }
 
 std::size_t OpenFile::read(char* into, std::size_t size) const {
-  const ssize_t count = uninterrupted([&] { return ::read(static_cast<int>(handle_), into, size); });
-  if (count < 0) throw fileError(errno, path_);
-  return static_cast<std::size_t>(count);
+  for (;;) {
+    const ssize_t count = uninterrupted([&] { return ::read(static_cast<int>(handle_), into, size); });
+    if (count >= 0) return static_cast<std::size_t>(count);
+    if (errno != EAGAIN) throw fileError(errno, path_);
+    // Standard input that somebody else has told not to wait.
+    pollfd waiting{static_cast<int>(handle_), POLLIN, 0};
+    uninterrupted([&waiting] { return ::poll(&waiting, 1, -1); });
+  }
 }
 
 void OpenFile::write(std::string_view content) const {
@@ -154,9 +182,28 @@ void requireReplaceable(const std::string& path) {
   if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) throw fileError(errno, path);
 }
 
+void requireNoDevice(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0 || S_ISDIR(status.st_mode)) return;
+  requireFile(status.st_mode, path);
+  if (namesDescriptor(path)) throw noFileError(path);
+}
+
+void requireNameable(const std::string& path) {
+  struct stat status {};
+  if (::lstat(path.c_str(), &status) != 0 && errno == ENAMETOOLONG) throw fileError(errno, path);
+}
+
 void requireRemovable(const std::string& path) {
   std::error_code error;
   if (std::filesystem::is_directory(path, error)) throw fileError(EISDIR, path);
+}
+
+TemporaryFolder::TemporaryFolder() {
+  std::error_code error;
+  path_ = (std::filesystem::temp_directory_path(error) / "zamo-kv19.XXXXXX").string();
+  if (error) throw fileError(error.value(), path_);
+  if (::mkdtemp(path_.data()) == nullptr) throw fileError(errno, path_);
 }
 
 void removeFile(const std::string& path) {
@@ -168,11 +215,6 @@ void removeFile(const std::string& path) {
 void renameFile(const std::string& from, const std::string& to) {
   if (uninterrupted([&] { return std::rename(from.c_str(), to.c_str()); }) != 0) throw fileError(errno, to);
   flushFolderOf(to);
-}
-
-std::string executableFolder() {
-  std::error_code error;
-  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
 }
 
 }  // namespace zamo

@@ -1,8 +1,6 @@
 #include "platform/host.h"
 
 #include <algorithm>
-#include <exception>
-#include <new>
 
 #include "platform/message.h"
 #include "platform/run_time_error.h"
@@ -12,9 +10,6 @@ namespace {
 
 const Message kFailure("box, titled with the operation: a failure of the machine, with its number and text",
                        "Erreur %1:%2");
-
-constexpr int kOutOfMemory = 7;
-constexpr int kInternalError = 51;
 
 }  // namespace
 
@@ -30,18 +25,12 @@ void showRunTimeError(const Host& host, int number, std::string_view title, std:
 }
 
 void runGuarded(const Host& host, std::string_view title, const std::function<void()>& action) {
-  const auto fail = [&host, title](int number, std::string_view description) {
-    host.setHourglass(false);
-    showRunTimeError(host, number, title, description);
-  };
   try {
     action();
-  } catch (const RunTimeError& error) {
-    fail(error.number, error.text);
-  } catch (const std::bad_alloc&) {
-    fail(kOutOfMemory, "Out of memory");
-  } catch (const std::exception& error) {
-    fail(kInternalError, error.what());
+  } catch (...) {
+    const RunTimeError error = presentError();
+    host.setHourglass(false);
+    showRunTimeError(host, error.number, title, error.text);
   }
 }
 

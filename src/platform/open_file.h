@@ -14,6 +14,8 @@ class OpenFile {
  public:
   // A regular file. Anything else is refused at once and never waited for.
   static OpenFile forReading(const std::string& path);
+  // What the program is given to read, a pipe or a terminal too.
+  static OpenFile standardInput();
   static OpenFile forAppending(const std::string& path);
   // A file that wasn't there; nothing when the name is taken, by a link too. Its errors speak of `namedAs`.
   static std::optional<OpenFile> ofNewName(const std::string& path, const std::string& namedAs);
@@ -29,6 +31,8 @@ class OpenFile {
   void write(std::string_view content) const;
   // Puts the file on the disk and closes it.
   void closeFlushed();
+  // As the system knows it.
+  std::intptr_t handle() const { return handle_; }
 
  private:
   OpenFile(std::string path, std::intptr_t handle);

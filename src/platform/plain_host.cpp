@@ -1,12 +1,9 @@
 #include "platform/plain_host.h"
 
-#include <pwd.h>
-#include <unistd.h>
-
 #include <cstdio>
-#include <ctime>
 
 #include "platform/code_page.h"
+#include "platform/system.h"
 
 namespace zamo {
 namespace {
@@ -27,7 +24,7 @@ void printBox(const Box& box) {
 
 Host makePlainHost(bool answer) {
   // A status a notice is too many system calls for a file or a pipe, where nobody watches.
-  if (::isatty(STDERR_FILENO) == 0) std::setvbuf(stderr, nullptr, _IOFBF, kMessageBuffer);
+  if (!standardErrorIsTerminal()) std::setvbuf(stderr, nullptr, _IOFBF, kMessageBuffer);
   Host host;
   host.showBox = printBox;
   host.askYesNo = [answer](const Box& box) {
@@ -51,21 +48,6 @@ Host makePlainHost(bool answer) {
   host.chooseFolder = [](std::string_view) { return std::optional<std::string>(); };
   host.startTextViewer = [](const std::string&) { return true; };
   return host;
-}
-
-DateTime systemNow() {
-  const std::time_t seconds = std::time(nullptr);
-  std::tm local{};
-  ::localtime_r(&seconds, &local);
-  const Date date{std::chrono::year(local.tm_year + 1900),
-                  std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
-                  std::chrono::day(static_cast<unsigned>(local.tm_mday))};
-  return {date, local.tm_hour, local.tm_min, local.tm_sec};
-}
-
-std::string systemUserName() {
-  const passwd* user = ::getpwuid(::geteuid());
-  return user == nullptr ? std::string() : textFromUtf8(user->pw_name);
 }
 
 }  // namespace zamo

@@ -9,10 +9,4 @@ namespace zamo {
 // and no text viewer to start: the caller names the files that are left.
 Host makePlainHost(bool answer);
 
-// The present date and time of this machine.
-DateTime systemNow();
-
-// The name of the operating system's user, empty when it has none.
-std::string systemUserName();
-
 }  // namespace zamo

@@ -8,8 +8,10 @@ namespace zamo {
 enum ErrorNumber : int {
   kInvalidArgument = 5,
   kOverflow = 6,
+  kOutOfMemory = 7,
   kIndexOutOfRange = 9,
   kTypeMismatch = 13,
+  kInternalError = 51,
   kFileNotFound = 53,
   kDeviceError = 57,
   kDiskFull = 61,
@@ -29,5 +31,9 @@ constexpr bool isFileError(int number) {
 
 // The error of a failed system call on `path`, from the system's own number.
 RunTimeError fileError(int systemError, const std::string& path);
+
+// What is being handled, for use in a handler of everything: also memory that ran out and what a library
+// throws.
+RunTimeError presentError();
 
 }  // namespace zamo

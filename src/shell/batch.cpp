@@ -1,15 +1,20 @@
 #include "shell/batch.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "database/export.h"
 #include "database/read_notice.h"
 #include "noticefile/notice_writer.h"
 #include "platform/code_page.h"
+#include "platform/files.h"
 #include "platform/plain_host.h"
+#include "platform/run_time_error.h"
+#include "platform/system.h"
 #include "shell/export_command.h"
 #include "shell/pipeline.h"
 #include "shell/start_up.h"
@@ -18,6 +23,9 @@ namespace zamo {
 namespace {
 
 enum ExitStatus { kNothingFound = 0, kFindings = 1, kFailed = 2 };
+
+// Stands for standard input among the files to check.
+constexpr const char* kStandardInput = "-";
 
 std::string_view stageName(Stage stage) {
   switch (stage) {
@@ -35,34 +43,105 @@ std::string_view stageName(Stage stage) {
   return "ok";
 }
 
+// A path in a line of its own, whatever characters it has.
+std::string onOneLine(std::string_view path) {
+  std::string text;
+  for (const char c : path) {
+    switch (c) {
+      case '\n':
+        text += "\\n";
+        break;
+      case '\r':
+        text += "\\r";
+        break;
+      case '\t':
+        text += "\\t";
+        break;
+      default:
+        text += c;
+    }
+  }
+  return text;
+}
+
 // What became of an input file and, unless it is empty, the file that was made of it. Gives whether standard
 // output took it.
 bool printOutcome(const std::string& file, std::string_view outcome, const std::string& made) {
-  std::string line = file + "\t" + std::string(outcome);
-  if (!made.empty()) line += "\t" + made;
+  std::string line = onOneLine(file) + "\t" + std::string(outcome);
+  if (!made.empty()) line += "\t" + onOneLine(made);
   std::fflush(stderr);
-  return std::puts(line.c_str()) >= 0 && std::fflush(stdout) == 0;
+  return print(line + "\n");
 }
 
-// Which of the stages the files go through.
-using Judge = Verdict (*)(Shell&);
+// How files are judged.
+struct Judging {
+  Host host;
+  WorldMap map;
+  int level;
+  bool loads;
+};
 
-int judgeFiles(const std::vector<std::string>& files, int level, bool answer, Judge judge) {
+void tellError(const Host& host) {
+  const RunTimeError error = presentError();
+  showRunTimeError(host, error.number, "zamo-kv19-batch", error.text);
+}
+
+Verdict judged(const Judging& judging, const std::string& path, const std::string& title) {
+  Shell shell;
+  shell.host = judging.host;
+  shell.map = judging.map;
+  shell.inputTitle = title;
+  shell.run.ValLevel = static_cast<std::int16_t>(judging.level);
+  shell.run.NtcFileName = path;
+  Verdict verdict;
+  try {
+    judging.loads ? judgeAndLoadFile(shell, verdict) : judgeFile(shell, verdict);
+  } catch (...) {
+    verdict.machineFailed = true;
+    tellError(judging.host);
+  }
+  return verdict;
+}
+
+// What comes on standard input has no folder: it is kept in one for the run, and `report` takes what would
+// have been written beside it.
+Verdict judgeStandardInput(const Judging& judging, std::string& report) {
+  try {
+    const TemporaryFolder folder;
+    const std::string kept = folder.path() + "/notices.txt";
+    keepStandardInput(kept);
+    Verdict verdict = judged(judging, kept, kStandardInput);
+    if (!verdict.report.empty()) report = contentOf(std::exchange(verdict.report, {}));
+    return verdict;
+  } catch (...) {
+    tellError(judging.host);
+    return {Stage::structure, true, {}, false};
+  }
+}
+
+ExitStatus statusOf(const Verdict& verdict) {
+  if (verdict.passed()) return kNothingFound;
+  return verdict.machineFailed ? kFailed : kFindings;
+}
+
+int judgeFiles(const std::vector<std::string>& files, const Judging& judging) {
+  ExitStatus status = kNothingFound;
+  for (const std::string& file : files) {
+    std::string report;
+    const Verdict verdict =
+        file == kStandardInput ? judgeStandardInput(judging, report) : judged(judging, file, file);
+    const bool printed =
+        printOutcome(file, stageName(verdict.failedAt), verdict.report) && print(utf8FromText(report));
+    status = std::max(status, printed ? statusOf(verdict) : kFailed);
+  }
+  return status;
+}
+
+int judgeFiles(const std::vector<std::string>& files, int level, bool answer, bool loads) {
   Shell start;
   start.host = makePlainHost(answer);
   if (level == kCompleteWithGeo && !openMap(start.host, mapBesideExecutable(start))) return kFailed;
-  int status = kNothingFound;
-  for (const std::string& file : files) {
-    Shell shell;
-    shell.host = start.host;
-    shell.map = start.map;
-    shell.run.ValLevel = static_cast<std::int16_t>(level);
-    shell.run.NtcFileName = file;
-    const Verdict verdict = judge(shell);
-    if (!printOutcome(file, stageName(verdict.failedAt), verdict.report)) status = kFailed;
-    if (!verdict.passed()) status = std::max<int>(status, verdict.machineFailed ? kFailed : kFindings);
-  }
-  return status;
+  return judgeFiles(files, {start.host, start.map, level, loads});
 }
 
 int show(const std::string& databasePath, std::int32_t key, bool isContour) {
@@ -74,8 +153,7 @@ int show(const std::string& databasePath, std::int32_t key, bool isContour) {
   if (!read(host, key, ntc, *connection)) return kFailed;
   const std::string text =
       isContour ? makeContourNotice(ntc, 1) : makeNoticeSection(ntc, 1, targetsOf(host, *connection));
-  const bool printed = std::puts(utf8FromText(text).c_str()) >= 0 && std::fflush(stdout) == 0;
-  return printed ? kNothingFound : kFailed;
+  return print(utf8FromText(text) + "\n") ? kNothingFound : kFailed;
 }
 
 bool openWorkingDatabase(const Host& host, const std::string& path, DbConnection& connection) {
@@ -116,9 +194,11 @@ void addLevel(CLI::App& command, int& level) {
       ->capture_default_str();
 }
 
-}  // namespace
+std::string refuseStandardInput(const std::string& file) {
+  return file == kStandardInput ? "standard input can be checked and not loaded" : "";
+}
 
-int runBatch(int argc, const char* const* argv) {
+int runCall(int argc, const char* const* argv) {
   CLI::App app("Checks electronic notices of the plan KV19 without a window.", "zamo-kv19-batch");
   app.require_subcommand(1);
   std::vector<std::string> files;
@@ -127,14 +207,16 @@ int runBatch(int argc, const char* const* argv) {
   CLI::App* const checking =
       app.add_subcommand("check", "Structure check, basic validation and, by level, complete validation");
   addLevel(*checking, level);
-  checking->add_option("FILE", files, "Notice files")->required();
+  checking
+      ->add_option("FILE", files, "Notice files; - is standard input, whose report goes to standard output")
+      ->required();
 
   bool answer = true;
   CLI::App* const loading =
       app.add_subcommand("load", "The same, and then the working database of each file");
   addLevel(*loading, level);
   loading->add_flag("--yes,!--no", answer, "Answer every question with Yes, as is usual, or with No");
-  loading->add_option("FILE", files, "Notice files")->required();
+  loading->add_option("FILE", files, "Notice files")->required()->check(refuseStandardInput);
 
   std::string database;
   std::string condition;
@@ -157,12 +239,25 @@ int runBatch(int argc, const char* const* argv) {
 
   try {
     app.parse(argc, argv);
+    if (std::count(files.begin(), files.end(), kStandardInput) > 1)
+      throw CLI::ValidationError("FILE", "standard input can be checked once");
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kNothingFound : kFailed;
   }
   if (exporting->parsed()) return exportNotices(database, condition, answer);
   if (showing->parsed()) return show(database, key, isContour);
-  return judgeFiles(files, level, answer, loading->parsed() ? judgeAndLoadFile : judgeFile);
+  return judgeFiles(files, level, answer, loading->parsed());
+}
+
+}  // namespace
+
+int runBatch(int argc, const char* const* argv) {
+  try {
+    return runCall(argc, argv);
+  } catch (...) {
+    tellError(makePlainHost(true));
+    return kFailed;
+  }
 }
 
 }  // namespace zamo

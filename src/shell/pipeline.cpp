@@ -55,9 +55,13 @@ void showValidationButtons(Shell& shell, bool visible) {
 
 // Each item gets a line end behind it; the error text has one of its own besides.
 void writeReport(const std::string& path, std::initializer_list<std::string_view> items) {
-  std::string content;
-  for (const std::string_view item : items) content.append(item).append(kLineEnd);
-  replaceFile(path, content);
+  NewFile report(path);
+  for (const std::string_view item : items) {
+    report.write(item);
+    report.write(kLineEnd);
+  }
+  report.close();
+  report.takePlace();
 }
 
 std::string reportStampLine(const Host& host) {
@@ -132,6 +136,11 @@ void validateCompletely(Shell& shell, Verdict& verdict, const CompleteLevel& lev
   }
 }
 
+// Before anything is made.
+void requireNamesOfLoad(Shell& shell, Verdict& /*verdict*/) {
+  requireNameable(baseOf(shell.run.NtcFileName).append(kLongestEndingOfLoad));
+}
+
 bool isTemplateReadable(const Host& host) {
   try {
     requireReadable(masterTemplatePath());
@@ -142,15 +151,37 @@ bool isTemplateReadable(const Host& host) {
   }
 }
 
-// Runs a stage to its end, or to the box for what it throws. Gives whether it came to its end.
-bool runStage(Shell& shell, Verdict& verdict, std::string_view operation, void (*stage)(Shell&, Verdict&)) {
+struct PipelineStage {
+  Stage failure;  // what an error that ends it counts as
+  std::string_view operation;
+  void (*run)(Shell&, Verdict&);
+};
+
+// clang-format off
+constexpr PipelineStage kNamesOfLoad    = {Stage::load,      "createAndLoadDb",         requireNamesOfLoad};
+constexpr PipelineStage kFormatAndBasic = {Stage::structure, "checkFormatAndBasic",     checkFormatAndBasic};
+constexpr PipelineStage kCompleteNoGeo  = {Stage::complete,  "completeValidationNoGeo", completeValidationNoGeo};
+constexpr PipelineStage kCompleteGeo    = {Stage::complete,  "completeValidationGeo",   completeValidationGeo};
+constexpr PipelineStage kCreateAndLoad  = {Stage::load,      "createAndLoadDb",         createAndLoadDb};
+// clang-format on
+
+// Runs a stage to its end, or to the box for the failure of the machine that it throws. Gives whether it came
+// to its end.
+bool runStage(Shell& shell, Verdict& verdict, const PipelineStage& stage) {
+  const auto fail = [&verdict, &stage] {
+    verdict.machineFailed = true;
+    if (verdict.failedAt == Stage::none) verdict.failedAt = stage.failure;
+  };
   try {
-    stage(shell, verdict);
+    stage.run(shell, verdict);
     return true;
   } catch (const RunTimeError& error) {
-    verdict.machineFailed = true;
-    showRunTimeError(shell.host, error.number, operation, error.text);
+    fail();
+    showRunTimeError(shell.host, error.number, stage.operation, error.text);
     return false;
+  } catch (...) {
+    fail();
+    throw;
   }
 }
 
@@ -204,12 +235,15 @@ bool chooseNoticeFile(Shell& shell) {
 
 void checkFormatAndBasic(Shell& shell, Verdict& verdict) {
   shell.screen.gridVisible = false;
+  requireNameable(outcomeReportPath(shell.run.NtcFileName));
   showStatus(shell, kChecking.words());
   std::string errText;
   StageResult structure;
   {
     const Hourglass hourglass(shell.host);
-    structure = checkFileStructure(shell.host, errText, shell.run.NtcFileName);
+    const std::string& path = shell.run.NtcFileName;
+    structure =
+        checkFileStructure(shell.host, errText, path, shell.inputTitle.empty() ? path : shell.inputTitle);
   }
   if (!structure.passed) {
     disableQueryMenus(shell);
@@ -282,23 +316,32 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
   if (run.qryConfirmed) showStatus(shell, kWritten.filled({std::to_string(run.NtcCount)}));
 }
 
-Verdict judgeFile(Shell& shell) {
-  Verdict verdict;
-  if (!runStage(shell, verdict, "checkFormatAndBasic", checkFormatAndBasic) || !verdict.passed())
-    return verdict;
+void judgeFile(Shell& shell, Verdict& verdict) {
+  if (!runStage(shell, verdict, kFormatAndBasic) || !verdict.passed()) return;
   // Findings of complete validation stop no run: the tool is there to correct such notices.
   verdict.mayLoad = shell.run.ValLevel == kBasic;
   if (shell.run.ValLevel == kCompleteWithoutGeo) {
-    verdict.mayLoad = runStage(shell, verdict, "completeValidationNoGeo", completeValidationNoGeo);
+    verdict.mayLoad = runStage(shell, verdict, kCompleteNoGeo);
   } else if (shell.run.ValLevel == kCompleteWithGeo) {
-    verdict.mayLoad = runStage(shell, verdict, "completeValidationGeo", completeValidationGeo);
+    verdict.mayLoad = runStage(shell, verdict, kCompleteGeo);
   }
+}
+
+void judgeAndLoadFile(Shell& shell, Verdict& verdict) {
+  if (!runStage(shell, verdict, kNamesOfLoad)) return;
+  judgeFile(shell, verdict);
+  if (verdict.mayLoad) runStage(shell, verdict, kCreateAndLoad);
+}
+
+Verdict judgeFile(Shell& shell) {
+  Verdict verdict;
+  judgeFile(shell, verdict);
   return verdict;
 }
 
 Verdict judgeAndLoadFile(Shell& shell) {
-  Verdict verdict = judgeFile(shell);
-  if (verdict.mayLoad) runStage(shell, verdict, "createAndLoadDb", createAndLoadDb);
+  Verdict verdict;
+  judgeAndLoadFile(shell, verdict);
   return verdict;
 }
 

@@ -49,6 +49,11 @@ Verdict judgeFile(Shell& shell);
 // The same, and then the load, unless the structure check or basic validation stopped the run.
 Verdict judgeAndLoadFile(Shell& shell);
 
+// Both for a `verdict` that has nothing in it yet. What throws out of them leaves in it what was known by
+// then.
+void judgeFile(Shell& shell, Verdict& verdict);
+void judgeAndLoadFile(Shell& shell, Verdict& verdict);
+
 // Opens a report in the text viewer. Without a viewer a box tells where it is, behind `messageHead`.
 void showReportInNotepad(const Host& host, const std::string& path, std::string_view messageHead);
 

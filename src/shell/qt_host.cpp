@@ -17,8 +17,8 @@
 #include <array>
 #include <memory>
 
-#include "platform/plain_host.h"
 #include "platform/run_time_error.h"
+#include "platform/system.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
 #include "widgets/qt_text.h"

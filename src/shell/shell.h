@@ -52,6 +52,7 @@ struct Shell {
   WorldMap map;  // which level 3 needs opened; empty after its opening failed
   Forms forms;
   std::function<void(const MainScreen&)> draw = [](const MainScreen&) {};
+  std::string inputTitle;  // what messages call the notice file; empty: by its path
 };
 
 }  // namespace zamo

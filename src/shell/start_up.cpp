@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/message.h"
+#include "platform/system.h"
 
 namespace zamo {
 namespace {

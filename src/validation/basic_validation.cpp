@@ -20,8 +20,8 @@ StageResult runBasicValidation(const Host& host, std::string& report, std::int64
     LineSource lines(filePath);
     return {validateLines(host, lines, report, noticesRead,
                           withFileName ? textFromUtf8(filePath) : std::string())};
-  } catch (const RunTimeError& error) {
-    return tellStageError(host, "Validate Notice", error);
+  } catch (...) {
+    return tellStageError(host, "Validate Notice", presentError());
   }
 }
 

@@ -96,8 +96,8 @@ StageResult runCompleteValidation(const Host& host, NtcRec& ntc, std::string& re
   try {
     LineSource lines(filePath);
     return {validateNotices(host, lines, ntc, report, map, lookups)};
-  } catch (const RunTimeError& error) {
-    return tellStageError(host, "Backend Validation", error);
+  } catch (...) {
+    return tellStageError(host, "Backend Validation", presentError());
   }
 }
 

@@ -1,9 +1,12 @@
 #include "noticefile/line_source.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
-#include <chrono>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -35,15 +38,20 @@ Lines linesOfText(std::string_view text) {
   return lines;
 }
 
-int errorNumberOf(const std::string& path) {
+// What reading the file to its end throws; number 0 for nothing.
+RunTimeError errorOf(const std::string& path) {
   try {
     LineSource lines(path);
     while (!lines.atEnd()) lines.nextLine();
   } catch (const RunTimeError& error) {
     EXPECT_NE(error.text, "");
-    return error.number;
+    return error;
   }
-  return 0;
+  return {};
+}
+
+int errorNumberOf(const std::string& path) {
+  return errorOf(path).number;
 }
 
 TEST(LineSource, carriage_return_and_line_feed_end_a_line) {
@@ -218,45 +226,100 @@ TEST(LineSource, a_folder_is_error_70) {
   EXPECT_EQ(errorNumberOf(folder.path()), 70);
 }
 
-double secondsForOneLineOf(std::size_t bytes, const TempFolder& folder) {
-  const std::string path = folder.write("long.txt", std::string(bytes, 'x') + "\r\nlast\r\n");
-  const auto start = std::chrono::steady_clock::now();
-  LineSource lines(path);
-  EXPECT_EQ(lines.nextLine().size(), bytes);
-  EXPECT_EQ(lines.nextLine(), "last");
-  EXPECT_TRUE(lines.atEnd());
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-TEST(LineSource, a_line_of_100_megabytes_takes_time_in_proportion) {
+TEST(LineSource, what_is_no_file_is_error_70_and_not_waited_for) {
   const TempFolder folder;
-  const double small = secondsForOneLineOf(12'500'000, folder);
-  const double large = secondsForOneLineOf(100'000'000, folder);
-  // Eight times the bytes: a reader that looks at them again and again needs 64 times as long.
-  EXPECT_LT(large, 30 * small + 1.0);
-  EXPECT_LT(large, 5.0);
-}
-
-TEST(LineSource, a_line_of_100_megabytes_takes_memory_of_that_order) {
-  const TempFolder folder;
-  const std::string path = folder.file("long.txt");
-  {
-    const std::string block(1'000'000, 'x');
-    for (int i = 0; i < 100; ++i) {
-      std::FILE* file = std::fopen(path.c_str(), "ab");
-      ASSERT_NE(file, nullptr);
-      std::fwrite(block.data(), 1, block.size(), file);
-      std::fclose(file);
-    }
+  const std::string pipe = folder.file("pipe.txt");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(errorOf(pipe).text, "Not a regular file: " + pipe);
+  std::filesystem::create_symlink("pipe.txt", folder.file("link.txt"));
+  for (const std::string& path : {pipe, folder.file("link.txt"), std::string("/dev/null"),
+                                  std::string("/dev/zero"), std::string("/dev/full")}) {
+    EXPECT_EQ(errorNumberOf(path), 70) << path;
   }
+}
+
+TEST(LineSource, another_name_of_an_open_file_is_no_file) {
+  const TempFolder folder;
+  const int descriptor = ::open(folder.write("a.txt", "a\r\n").c_str(), O_RDONLY);
+  const std::string number = std::to_string(descriptor);
+  for (const std::string& path : {"/dev/fd/" + number, "/proc/self/fd/" + number,
+                                  "/proc/" + std::to_string(::getpid()) + "/fd/" + number}) {
+    EXPECT_EQ(errorOf(path).number, 70) << path;
+    EXPECT_EQ(errorOf(path).text, "Not a regular file: " + path);
+  }
+  std::filesystem::create_symlink("/dev/fd/" + number, folder.file("link.txt"));
+  EXPECT_EQ(errorNumberOf(folder.file("link.txt")), 70);
+  ::close(descriptor);
+}
+
+TEST(LineSource, a_link_to_a_file_is_read) {
+  const TempFolder folder;
+  folder.write("a.txt", "a\r\n");
+  std::filesystem::create_symlink("a.txt", folder.file("link.txt"));
+  std::filesystem::create_symlink(folder.file("link.txt"), folder.file("second.txt"));
+  EXPECT_EQ(linesOf(LineSource(folder.file("second.txt"))), (Lines{"a"}));
+}
+
+constexpr std::size_t kMegabyte = 1024 * std::size_t{1024};
+
+TEST(LineSource, a_line_of_a_megabyte_is_given) {
+  const std::string longest(kMegabyte, 'x');
+  EXPECT_TRUE(linesOfText("a\r\n" + longest + "\r\nb\n" + longest + "\n" + longest) ==
+              (Lines{"a", longest, "b", longest, longest}));
+}
+
+TEST(LineSource, a_longer_line_is_error_7_with_its_number) {
+  const TempFolder folder;
+  for (const char* end : {"\r\n", "\n", "\r", ""}) {
+    const std::string text = "a\r\n\r\n" + std::string(kMegabyte + 1, 'x') + end;
+    const RunTimeError error = errorOf(folder.write("a.txt", text));
+    EXPECT_EQ(error.number, 7);
+    EXPECT_EQ(error.text, "Out of memory: line 3 is longer than 1 MB");
+    LineSource lines = LineSource::ofText(text);
+    lines.nextLine();
+    lines.nextLine();
+    EXPECT_THROW(lines.nextLine(), RunTimeError);
+  }
+  // Blanks count, though they would be taken off.
+  EXPECT_EQ(errorOf(folder.write("a.txt", std::string(kMegabyte + 1, ' '))).text,
+            "Out of memory: line 1 is longer than 1 MB");
+}
+
+TEST(LineSource, memory_does_not_grow_with_a_line) {
+  const TempFolder folder;
+  const std::string path = folder.write("long.txt", "a\r\n");
+  std::filesystem::resize_file(path, 1024 * kMegabyte);
   // In a process of its own, whose highest use of memory is this reader's.
   EXPECT_EXIT(
       {
-        LineSource lines(path);
-        const std::size_t size = lines.nextLine().size();
+        rusage before{};
+        ::getrusage(RUSAGE_SELF, &before);
+        const int number = errorNumberOf(path);
         rusage use{};
         ::getrusage(RUSAGE_SELF, &use);
-        std::exit(size == 100'000'000 && use.ru_maxrss < 600 * 1024 ? 0 : 1);
+        std::exit(number == 7 && use.ru_maxrss - before.ru_maxrss < 8 * 1024 ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+TEST(LineSource, memory_does_not_grow_with_many_long_lines) {
+  const TempFolder folder;
+  const std::string path = folder.file("long.txt");
+  for (int i = 0; i < 60; ++i) {
+    std::FILE* file = std::fopen(path.c_str(), "ab");
+    ASSERT_NE(file, nullptr);
+    const std::string line = std::string(kMegabyte, 'x') + "\n";
+    std::fwrite(line.data(), 1, line.size(), file);
+    std::fclose(file);
+  }
+  EXPECT_EXIT(
+      {
+        rusage before{};
+        ::getrusage(RUSAGE_SELF, &before);
+        const int number = errorNumberOf(path);
+        rusage use{};
+        ::getrusage(RUSAGE_SELF, &use);
+        std::exit(number == 0 && use.ru_maxrss - before.ru_maxrss < 8 * 1024 ? 0 : 1);
       },
       testing::ExitedWithCode(0), "");
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/plain_host.h"
+#include "platform/system.h"
 #include "support/scripted_host.h"
 
 namespace zamo {

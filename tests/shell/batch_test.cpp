@@ -1,11 +1,13 @@
 // The built companion, run as a script would run it.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/code_page.h"
 #include "support/places.h"
 #include "support/temp_folder.h"
 
@@ -14,6 +16,14 @@ namespace {
 
 using test::readFile;
 using test::TempFolder;
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kIsSanitized = true;
+#elif defined(__has_feature)
+constexpr bool kIsSanitized = __has_feature(address_sanitizer);
+#else
+constexpr bool kIsSanitized = false;
+#endif
 
 constexpr std::string_view kGoodFile =
     "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\n</NOTICE>\n<TAIL>\nt_num_notices = "
@@ -29,8 +39,11 @@ class Batch : public testing::Test {
  protected:
   // `arguments` as a shell takes them; the program runs in the test's folder.
   Outcome run(const std::string& arguments, const std::string& before = "") const {
-    const std::string command = "cd '" + folder.path() + "' && " + before + ZAMO_BIN "/zamo-kv19-batch " +
-                                arguments + " >out.log 2>err.log";
+    return runProgram(before + ZAMO_BIN "/zamo-kv19-batch " + arguments);
+  }
+
+  Outcome runProgram(const std::string& call) const {
+    const std::string command = "cd '" + folder.path() + "' && " + call + " >out.log 2>err.log";
     const int result = std::system(command.c_str());
     return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, readFile(folder.file("out.log")),
             readFile(folder.file("err.log"))};
@@ -408,13 +421,225 @@ TEST_F(Batch, a_damaged_database_is_told_and_left_alone) {
   EXPECT_EQ(readFile(folder.file("noise.mdb")), std::string(5000, 'x'));
 }
 
-TEST_F(Batch, a_line_of_100_megabytes_is_read) {
+TEST_F(Batch, a_line_of_more_than_a_megabyte_ends_with_2_and_its_number) {
   std::string content(kGoodFile);
-  content.insert(content.find("t_notice_type"), "t_remarks = " + std::string(100'000'000, 'x') + "\n");
+  content.insert(content.find("t_notice_type"), "t_remarks = " + std::string(1'100'000, 'x') + "\n");
   folder.write("long.txt", content);
-  const Outcome outcome = run("check --level 1 long.txt");
-  EXPECT_EQ(outcome.status, 0);
-  EXPECT_EQ(outcome.output, "long.txt\tok\n");
+  folder.write("good.txt", kGoodFile);
+  const Outcome outcome = run("check --level 1 long.txt good.txt");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "long.txt\tstructure\ngood.txt\tok\n");
+  EXPECT_NE(
+      outcome.messages.find("Validate File format: Erreur 7:Out of memory: line 5 is longer than 1 MB\n"),
+      std::string::npos);
+  EXPECT_EQ(folder.names(), (std::vector<std::string>{"err.log", "good.txt", "long.txt", "out.log"}));
+}
+
+TEST_F(Batch, a_line_of_a_gigabyte_is_refused_in_the_memory_that_a_sound_file_takes) {
+  if (kIsSanitized) GTEST_SKIP() << "sanitizers take memory of their own";
+  std::filesystem::resize_file(folder.write("huge.txt", kGoodFile), std::size_t{1} << 30);
+  const std::string limit = "ulimit -v 100000; ";
+  const Outcome outcome = run("check --level 1 huge.txt", limit);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "huge.txt\tstructure\n");
+  EXPECT_NE(outcome.messages.find("Erreur 7:Out of memory: line 10 is longer than 1 MB\n"),
+            std::string::npos);
+}
+
+TEST_F(Batch, memory_that_runs_out_ends_a_file_with_2_and_the_next_one_is_checked) {
+  if (kIsSanitized) GTEST_SKIP() << "sanitizers take memory of their own";
+  folder.write("good.txt", kGoodFile);
+  std::string findings = "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\n";
+  for (int i = 0; i < 1'000'000; ++i) findings += "t_x=\n";
+  folder.write("findings.txt", findings + "</NOTICE>\n<TAIL>\nt_num_notices = 1\n</TAIL>\n");
+  std::string nested = "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\n\n";
+  for (int i = 0; i < 3'000'000; ++i) nested += "<POINT>\n";
+  folder.write("nested.txt", nested);
+  const Outcome outcome =
+      run("check --level 1 findings.txt good.txt nested.txt good.txt", "ulimit -v 100000; ");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(
+      outcome.output,
+      "findings.txt\tbasic\tfindings_val_outcome.txt\ngood.txt\tok\nnested.txt\tstructure\ngood.txt\tok\n");
+  EXPECT_NE(outcome.messages.find("Validate Notice: Erreur 7:Out of memory\n"), std::string::npos);
+  EXPECT_NE(outcome.messages.find("Validate File format: Erreur 7:Out of memory\n"), std::string::npos);
+  // The same files with room enough.
+  EXPECT_EQ(run("check --level 1 findings.txt nested.txt").status, 1);
+}
+
+TEST_F(Batch, what_is_no_file_is_refused_at_once) {
+  for (const char* name : {"pipe.txt", "pipe.mdb", "half.mdb-journal"})
+    ASSERT_EQ(::mkfifo(folder.file(name).c_str(), 0600), 0);
+  const std::string patience = "timeout 60 ";
+  const Outcome check = run("check --level 1 pipe.txt /dev/zero", patience);
+  EXPECT_EQ(check.status, 2);
+  EXPECT_EQ(check.output, "pipe.txt\tstructure\n/dev/zero\tstructure\n");
+  EXPECT_NE(check.messages.find("Validate File format: Erreur 70:Not a regular file: pipe.txt\n"),
+            std::string::npos);
+  EXPECT_NE(check.messages.find("Validate File format: Erreur 70:Not a regular file: /dev/zero\n"),
+            std::string::npos);
+  folder.write("pipe.txt.keep", "");
+  const Outcome show = run("show pipe.mdb 1", patience);
+  EXPECT_EQ(show.status, 2);
+  EXPECT_EQ(show.messages, "OpenDB: Erreur 70:Not a regular file: pipe.mdb\n");
+  EXPECT_EQ(run("export pipe.mdb", patience).status, 2);
+  folder.write("half.mdb", "");
+  EXPECT_EQ(run("show half.mdb 1", patience).messages,
+            "OpenDB: Erreur 70:Not a regular file: half.mdb-journal\n");
+  // Its database would stand where the pipe is.
+  std::filesystem::remove(folder.file("pipe.txt"));
+  folder.write("pipe.txt", kGoodFile);
+  const Outcome load = run("load --level 1 pipe.txt", patience);
+  EXPECT_EQ(load.status, 2);
+  EXPECT_EQ(load.output, "pipe.txt\tload\n");
+  EXPECT_NE(load.messages.find("Error 70 : Not a regular file: pipe.mdb\n"), std::string::npos);
+}
+
+TEST_F(Batch, a_template_or_a_map_that_is_no_file_is_refused_at_once) {
+  std::filesystem::copy_file(ZAMO_BIN "/zamo-kv19-batch", folder.file("alone"));
+  folder.write("good.txt", kGoodFile);
+  for (const char* name : {"MasterHDLK_WQN.mdb", "gzmp32d.dat"})
+    ASSERT_EQ(::mkfifo(folder.file(name).c_str(), 0600), 0);
+  const Outcome load = runProgram("timeout 60 ./alone load --level 1 good.txt");
+  EXPECT_EQ(load.status, 2);
+  EXPECT_EQ(load.output, "good.txt\tload\n");
+  EXPECT_TRUE(load.messages.ends_with("Error 70 : \n\rMasterHDLK_WQN.mdb file not found\n"));
+  const Outcome check = runProgram("timeout 60 ./alone check good.txt");
+  EXPECT_EQ(check.status, 2);
+  EXPECT_EQ(check.messages, "Can't find GZMP data files\n");
+}
+
+TEST_F(Batch, a_name_of_standard_input_is_no_file) {
+  folder.write("bad.txt", "");
+  for (const std::string name : {"/dev/stdin", "/dev/fd/0", "/proc/self/fd/0"}) {
+    const Outcome outcome = run("check --level 1 " + name + " <bad.txt", "timeout 60 ");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, name + "\tstructure\n");
+    EXPECT_NE(outcome.messages.find("Erreur 70:Not a regular file: " + name + "\n"), std::string::npos);
+  }
+}
+
+TEST_F(Batch, standard_input_is_checked_and_its_report_goes_to_standard_output) {
+  folder.write("empty.txt", "");
+  folder.write("good.txt", kGoodFile);
+  folder.write(
+      "bad.txt",
+      "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = \351\n</NOTICE>\n<TAIL>\nt_num_notices = "
+      "1\n</TAIL>\n");
+  std::filesystem::create_directory(folder.file("tmp"));
+  const std::string keeping = "TMPDIR='" + folder.file("tmp") + "' ";
+  const Outcome good = run("check --level 1 - <good.txt", keeping);
+  EXPECT_EQ(good.status, 0);
+  EXPECT_EQ(good.output, "-\tok\n");
+  const Outcome empty = run("check --level 1 - good.txt <empty.txt", keeping);
+  EXPECT_EQ(empty.status, 1);
+  EXPECT_EQ(empty.output,
+            "-\tstructure\nNumber of Notice sections found : 0\r\n"
+            "- : ERROR : An electronic notice file should start with \r\n ONE <HEAD> section \r\n\r\n"
+            "good.txt\tok\n");
+  const Outcome bad = run("check --level 1 - <bad.txt", keeping);
+  EXPECT_EQ(bad.status, 1);
+  EXPECT_TRUE(
+      bad.output.starts_with("-\tbasic\nThe input file has been validated with  LMZ Zamo HDLK Digital "
+                             "Version 3.07 / 13.01.2006\r\nOn "));
+  // What is left neither here nor there.
+  EXPECT_EQ(folder.names(),
+            (std::vector<std::string>{"bad.txt", "empty.txt", "err.log", "good.txt", "out.log", "tmp"}));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.file("tmp")));
+  // The same as of a file, in the code of the terminal.
+  const Outcome file = run("check --level 1 bad.txt");
+  const auto behind = [](const std::string& text, std::string_view head) {
+    return text.substr(text.find(head));
+  };
+  EXPECT_EQ(behind(bad.output, "Basic Validation error(s)"),
+            utf8FromText(behind(readFile(folder.file("bad_val_outcome.txt")), "Basic Validation error(s)")));
+}
+
+TEST_F(Batch, standard_input_may_be_a_pipe_and_longer_than_any_buffer_of_one) {
+  std::string remarks;
+  for (int i = 0; i < 20'000; ++i) remarks += "t_remarks = some more of them\n";
+  std::string content(kGoodFile);
+  content.insert(content.find("t_notice_type"), remarks);
+  folder.write("long.txt", content);
+  EXPECT_EQ(runProgram("cat long.txt | " ZAMO_BIN "/zamo-kv19-batch check --level 1 -").output, "-\tok\n");
+}
+
+TEST_F(Batch, standard_input_that_is_closed_or_can_not_be_kept_ends_with_2) {
+  const Outcome closed = run("check --level 1 - <&-");
+  EXPECT_EQ(closed.status, 2);
+  EXPECT_EQ(closed.output, "-\tstructure\n");
+  EXPECT_EQ(closed.messages, "zamo-kv19-batch: Erreur 57:Device I/O error: -\n");
+  const Outcome nowhere = run("check --level 1 - </dev/null", "TMPDIR=/nowhere ");
+  EXPECT_EQ(nowhere.status, 2);
+  EXPECT_EQ(nowhere.output, "-\tstructure\n");
+}
+
+TEST_F(Batch, standard_input_is_not_loaded_and_not_checked_twice) {
+  const Outcome load = run("load --level 1 - </dev/null");
+  EXPECT_EQ(load.status, 2);
+  EXPECT_EQ(load.output, "");
+  EXPECT_NE(load.messages.find("standard input can be checked and not loaded"), std::string::npos);
+  EXPECT_EQ(run("check --level 1 - - </dev/null").status, 2);
+  EXPECT_EQ(folder.names(), (std::vector<std::string>{"err.log", "out.log"}));
+  // A file of that name.
+  folder.write("-", kGoodFile);
+  EXPECT_EQ(run("check --level 1 ./-").output, "./-\tok\n");
+}
+
+TEST_F(Batch, a_name_too_long_for_the_files_beside_it_is_refused_before_anything_is_made) {
+  const auto named = [this](std::size_t length) {
+    const std::string name = std::string(length - 4, 'n') + ".txt";
+    folder.write(name, "");
+    return name;
+  };
+  const std::string checkable = named(255 - 12);
+  const Outcome longest = run("check --level 1 " + checkable);
+  EXPECT_EQ(longest.status, 1);
+  const std::string base = checkable.substr(0, checkable.size() - 4);
+  EXPECT_EQ(longest.output, checkable + "\tstructure\t" + base + "_val_outcome.txt\n");
+  std::filesystem::remove(folder.file(base + "_val_outcome.txt"));
+
+  const Outcome load = run("load --level 1 " + checkable);
+  EXPECT_EQ(load.status, 2);
+  EXPECT_EQ(load.output, checkable + "\tload\n");
+  EXPECT_EQ(load.messages, "createAndLoadDb: Erreur 53:The name is too long for a file: " + base +
+                               "_duplicat_report_31122000-235959.txt\n");
+  std::filesystem::remove(folder.file(checkable));
+
+  const std::string tooLong = named(255 - 11);
+  const Outcome check = run("check --level 1 " + tooLong);
+  EXPECT_EQ(check.status, 2);
+  EXPECT_EQ(check.output, tooLong + "\tstructure\n");
+  EXPECT_EQ(check.messages, "checkFormatAndBasic: Erreur 53:The name is too long for a file: " +
+                                tooLong.substr(0, tooLong.size() - 4) + "_val_outcome.txt\n");
+  EXPECT_EQ(folder.names(), (std::vector<std::string>{"err.log", tooLong, "out.log"}));
+}
+
+TEST_F(Batch, the_longest_name_that_can_be_loaded_is_loaded) {
+  const std::string base(255 - 36, 'n');
+  const std::string notice =
+      "<NOTICE>\nt_notice_type = GT1\nt_adm_ref_id = A1\nt_freq_assgn = 474\n</NOTICE>\n";
+  folder.write(base + ".txt",
+               "<HEAD>\nt_adm = F\n</HEAD>\n" + notice + notice + "<TAIL>\nt_num_notices = 2\n</TAIL>\n");
+  const Outcome load = run("load --level 1 " + base + ".txt");
+  EXPECT_EQ(load.status, 0);
+  EXPECT_EQ(load.output, base + ".txt\tok\n");
+  EXPECT_EQ(run("show " + base + ".mdb 83700002").status, 0);
+}
+
+TEST_F(Batch, a_line_end_in_a_name_makes_no_line_of_its_own) {
+  folder.write("two\nlines.txt", "");
+  folder.write("a\r\tb.txt", kGoodFile);
+  const Outcome outcome = run("check --level 1 'two\nlines.txt' 'a\r\tb.txt'");
+  EXPECT_EQ(outcome.output, "two\\nlines.txt\tstructure\ttwo\\nlines_val_outcome.txt\na\\r\\tb.txt\tok\n");
+  EXPECT_TRUE(std::filesystem::exists(folder.file("two\nlines_val_outcome.txt")));
+}
+
+TEST_F(Batch, an_error_of_the_load_names_its_stage) {
+  folder.write("notices.mdb", kGoodFile);
+  const Outcome outcome = run("load --level 1 notices.mdb");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "notices.mdb\tload\n");
 }
 
 TEST_F(Batch, a_path_beyond_ascii_is_kept_on_disk_and_told_in_the_code_page) {
