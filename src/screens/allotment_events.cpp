@@ -23,20 +23,21 @@ void show(Screen& screen, const std::string_view (&controls)[Count], bool visibl
   for (const std::string_view control : controls) screen.setVisible(control, visible);
 }
 
-// An area is either made of sub-areas or a whole country. What is stored is seen, even if it is both.
-void showAreas(Screen& screen) {
-  const bool isCountry = !screen.isEmpty("Combo_LMZ04_geo_area");
-  const bool isSubAreas = !screen.isEmpty("Txt_LMZ04_nb_sub_areas");
-  show(screen, kWholeCountry, !isSubAreas || (screen.filling && isCountry));
-  show(screen, kSubAreas, !isCountry || (screen.filling && isSubAreas));
-  screen.setVisible("Lbl_LMZ04_or", !isCountry && !isSubAreas);
+// An area is either made of sub-areas or a whole country: the way that is told hides the other one, never
+// itself. What is stored is seen, even if it is both.
+template <std::size_t OwnCount, std::size_t OtherCount>
+void showOtherWay(Screen& screen, bool isTold, const std::string_view (&own)[OwnCount],
+                  const std::string_view (&other)[OtherCount], bool isOtherTold) {
+  if (isTold) show(screen, own, true);
+  show(screen, other, !isTold || (screen.filling && isOtherTold));
+  screen.setVisible("Lbl_LMZ04_or", !isTold);
 }
 
 void changeSubAreaCount(NoticeForm& form, std::string_view control) {
   Screen& screen = form.screen;
   if (!isAcceptable(screen, control)) return;
   const bool isEmpty = screen.isEmpty(control);
-  showAreas(screen);
+  showOtherWay(screen, !isEmpty, kSubAreas, kWholeCountry, !screen.isEmpty("Combo_LMZ04_geo_area"));
   lockSubAreas(screen, isEmpty);
   if (!isEmpty) noteBlank(form, false);
 }
@@ -49,8 +50,10 @@ void leaveSubAreaCount(NoticeForm& form, std::string_view control) {
 }
 
 void chooseGeoArea(NoticeForm& form, std::string_view control) {
-  showAreas(form.screen);
-  if (!form.screen.isEmpty(control)) noteBlank(form, false);
+  Screen& screen = form.screen;
+  const bool isEmpty = screen.isEmpty(control);
+  showOtherWay(screen, !isEmpty, kWholeCountry, kSubAreas, !screen.isEmpty("Txt_LMZ04_nb_sub_areas"));
+  if (!isEmpty) noteBlank(form, false);
 }
 
 void changeContourId(NoticeForm& form, std::string_view control) {

@@ -210,30 +210,56 @@ TEST_P(Allotment, a_stored_allotment_shows_its_sub_areas_unlocked) {
   EXPECT_FALSE(screen.isVisible("Combo_LMZ04_geo_area"));
 }
 
-TEST_P(Allotment, an_allotment_stored_with_both_kinds_of_area_shows_both) {
-  NtcRec ntc = GetParam() == kGT2Allot ? makeGt2() : makeGs2();
-  ntc.digital.allot.t_geo_area = "F";
-  ntc.digital.allot.t_nb_sub_areas = "1";
-  ntc.digital.allot.t_contour_id = {"11"};
-  fillForm(ntc, screen);
-  EXPECT_TRUE(screen.isVisible("Combo_LMZ04_geo_area"));
+constexpr const char* kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
+constexpr const char* kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas", "FrameSubArea"};
+
+class AllotmentOfBothKinds : public Allotment {
+ protected:
+  AllotmentOfBothKinds() {
+    NtcRec ntc = GetParam() == kGT2Allot ? makeGt2() : makeGs2();
+    ntc.digital.allot.t_geo_area = "F";
+    ntc.digital.allot.t_nb_sub_areas = "1";
+    ntc.digital.allot.t_contour_id = {"11"};
+    fillForm(ntc, screen);
+  }
+
+  void expectSeen(bool wholeCountry, bool subAreas, bool orBetween) {
+    for (const char* name : kWholeCountry) EXPECT_EQ(screen.isVisible(name), wholeCountry) << name;
+    for (const char* name : kSubAreas) EXPECT_EQ(screen.isVisible(name), subAreas) << name;
+    EXPECT_EQ(screen.isVisible("Lbl_LMZ04_or"), orBetween);
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Both, AllotmentOfBothKinds, testing::Values(kGS2Allot, kGT2Allot));
+
+TEST_P(AllotmentOfBothKinds, shows_both_as_they_are_stored) {
+  expectSeen(true, true, false);
   EXPECT_EQ(screen.text("Combo_LMZ04_geo_area"), "F");
-  EXPECT_TRUE(screen.isVisible("Txt_LMZ04_nb_sub_areas"));
-  EXPECT_TRUE(screen.isVisible("FrameSubArea"));
+  EXPECT_EQ(screen.text("Txt_LMZ04_nb_sub_areas"), "1");
   EXPECT_EQ(list, Texts{"11"});
 }
 
-TEST_P(Allotment, of_two_stored_kinds_of_area_the_one_that_is_left_stays) {
-  NtcRec ntc = GetParam() == kGT2Allot ? makeGt2() : makeGs2();
-  ntc.digital.allot.t_geo_area = "F";
-  ntc.digital.allot.t_nb_sub_areas = "1";
-  ntc.digital.allot.t_contour_id = {"11"};
-  fillForm(ntc, screen);
+TEST_P(AllotmentOfBothKinds, keeps_its_sub_areas_in_sight_when_their_number_is_left) {
   EXPECT_TRUE(leave("Txt_LMZ04_nb_sub_areas"));
-  EXPECT_FALSE(screen.isVisible("Combo_LMZ04_geo_area"));
-  fillForm(ntc, screen);
+  expectSeen(false, true, false);
+  EXPECT_EQ(list, Texts{"11"});
+  desk.type("Txt_LMZ04_nb_sub_areas", "2");
+  expectSeen(false, true, false);
+  desk.type("Txt_LMZ04_nb_sub_areas", "");
+  EXPECT_TRUE(leave("Txt_LMZ04_nb_sub_areas"));
+  expectSeen(true, true, true);
+  EXPECT_EQ(screen.text("Combo_LMZ04_geo_area"), "F");
+}
+
+TEST_P(AllotmentOfBothKinds, keeps_its_geographic_area_in_sight_when_that_is_left) {
   EXPECT_TRUE(leave("Combo_LMZ04_geo_area"));
-  EXPECT_FALSE(screen.isVisible("Txt_LMZ04_nb_sub_areas"));
+  expectSeen(true, false, false);
+  desk.choose("Combo_LMZ04_geo_area", "SUI");
+  expectSeen(true, false, false);
+  desk.choose("Combo_LMZ04_geo_area", "");
+  EXPECT_TRUE(leave("Combo_LMZ04_geo_area"));
+  expectSeen(true, true, true);
+  EXPECT_EQ(list, Texts{"11"});
 }
 
 }  // namespace
