@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "screens/layouts.h"
+#include "widgets/hint_colour.h"
 #include "widgets/qt_text.h"
 
 namespace zamo {
@@ -229,7 +230,11 @@ void showGrey(const Control& control, QWidget& widget) {
   const bool isGrey = widget.palette().color(QPalette::Base) == QColor(kLockedColour);
   if (isGrey == control.grey) return;
   QPalette palette;
-  if (control.grey) palette.setColor(QPalette::Base, QColor(kLockedColour));
+  if (control.grey) {
+    palette.setColor(QPalette::Base, QColor(kLockedColour));
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::PlaceholderText, hintColour(palette));
+  }
   widget.setPalette(palette);
 }
 

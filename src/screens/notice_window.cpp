@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,7 +14,6 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
@@ -26,6 +24,8 @@
 #include "screens/field_checks.h"
 #include "screens/flow_layout.h"
 #include "screens/form_widgets.h"
+#include "widgets/hint_colour.h"
+#include "widgets/plain_tips.h"
 #include "widgets/qt_text.h"
 #include "widgets/upper_case.h"
 
@@ -114,13 +114,6 @@ bool typeInto(QComboBox& combo, QEvent& event) {
   return combo.isEditable() && QCoreApplication::sendEvent(combo.lineEdit(), &event);
 }
 
-// As rich text a long tip is broken into lines.
-bool showToolTip(QWidget& part, const QHelpEvent& event) {
-  if (part.toolTip().isEmpty()) return false;
-  QToolTip::showText(event.globalPos(), "<qt>" + part.toolTip().toHtmlEscaped() + "</qt>", &part);
-  return true;
-}
-
 std::set<std::string, std::less<>> upperCaseFields(FormCode code) {
   std::set<std::string, std::less<>> names;
   for (const ControlRow& row : controlRows(code)) {
@@ -133,6 +126,8 @@ std::set<std::string, std::less<>> upperCaseFields(FormCode code) {
 
 NoticeWindow::NoticeWindow(NoticeForm& form, LeaveRule mayLeave, QWidget* parent)
     : QDialog(parent), form_(form), mayLeave_(std::move(mayLeave)), layout_(layoutOf(form.screen.code())) {
+  showTipsAsPlainText();
+  keepHintsReadable();
   setObjectName(nameOfForm(form.screen.code()));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -402,8 +397,6 @@ bool NoticeWindow::eventFilter(QObject* watched, QEvent* event) {
              typeInto(*combo, *event);
     case QEvent::InputMethod:
       return combo != nullptr && typeInto(*combo, *event);
-    case QEvent::ToolTip:
-      return showToolTip(part, static_cast<const QHelpEvent&>(*event));
     default:
       return false;
   }

@@ -19,6 +19,8 @@
 
 #include "screens/err_msg_frm.h"
 #include "shell/notice_grid.h"
+#include "widgets/hint_colour.h"
+#include "widgets/plain_tips.h"
 #include "widgets/qt_text.h"
 
 namespace zamo {
@@ -69,6 +71,8 @@ void mnuFileExit(Shell& /*shell*/, QWidget& window) {
 }
 
 MainWindow::MainWindow(Shell& shell) : shell_(shell) {
+  showTipsAsPlainText();
+  keepHintsReadable();
   setObjectName("ZamoKV19Startup");
   makeMenus();
   makeControls();

@@ -21,6 +21,7 @@
 #include "platform/system.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
+#include "widgets/long_box.h"
 #include "widgets/qt_text.h"
 
 namespace zamo {
@@ -99,6 +100,7 @@ int execBox(MainWindow& window, const Box& box, QMessageBox::StandardButtons but
   dialog.setTextInteractionFlags(Qt::TextSelectableByMouse);
   if (QAbstractButton* const goOn = dialog.button(QMessageBox::Ignore)) goOn->setText("Continue");
   if (QAbstractButton* const again = dialog.button(QMessageBox::Retry)) again->setText("Try Again");
+  fitToDisplay(dialog);
   return dialog.exec();
 }
 
@@ -119,6 +121,7 @@ std::optional<std::string> execFileDialog(MainWindow& window, QFileDialog& dialo
 
 std::optional<std::string> openFile(MainWindow& window, const OpenFileRequest& request) {
   QFileDialog dialog(&window, QString(), dialogFolder(request.folder), dialogFilter(request.filter));
+  dialog.setObjectName("CMDialog");
   dialog.setFileMode(QFileDialog::ExistingFile);
   return execFileDialog(window, dialog);
 }

@@ -2,6 +2,7 @@
 #include <QHeaderView>
 #include <QWheelEvent>
 
+#include "support/tool_tips.h"
 #include "window/selection_fixture.h"
 
 namespace zamo::test {
@@ -128,6 +129,30 @@ TEST_F(Grid, gives_no_column_the_whole_window_and_a_cut_text_as_a_tool_tip) {
   EXPECT_LT(grid().columnWidth(7), 600);
   EXPECT_EQ(grid().model()->index(0, 7).data(Qt::ToolTipRole).toString().toStdString(), text);
   EXPECT_FALSE(grid().model()->index(0, 0).data(Qt::ToolTipRole).isValid());
+}
+
+TEST_F(Grid, shows_a_cell_with_markup_as_it_stands_in_its_tool_tip_too) {
+  raw.run(
+      "INSERT INTO fmtv_vorna (vornakey, adm, adm_ref_id, site_name) "
+      "SELECT 1, cell, cell, cell FROM (SELECT '<img src=''/dev/zero''> & <b>A</b>' AS cell)");
+  openDatabase();
+  const auto tipOf = [](QTableView& view, int column) {
+    return tipAt(*view.viewport(), view.visualRect(view.model()->index(0, column)).center());
+  };
+  ASSERT_GT(grid().frozenColumns(), 1);
+  EXPECT_EQ(tipOf(overlay(), 1), "<img src='/dev/zero'> & <b>A</b>");
+  for (const int column : {2, 7}) {
+    EXPECT_EQ(cell(0, column), "<img src='/dev/zero'> & <b>A</b>");
+    grid().scrollTo(grid().model()->index(0, column));
+    EXPECT_EQ(tipOf(grid(), column), "<img src='/dev/zero'> & <b>A</b>") << column;
+  }
+}
+
+TEST_F(Grid, shows_the_name_of_a_file_with_markup_as_it_stands_in_its_tool_tip) {
+  databasePath = folder.file("<i>a<i>.mdb");
+  std::filesystem::copy_file(folder.file("working.mdb"), databasePath);
+  openDatabase();
+  EXPECT_EQ(tipAt(control<QLineEdit>("TxtFileName"), {5, 5}), "DATABASE FILE: " + databasePath);
 }
 
 // --- its fixed columns

@@ -4,14 +4,16 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 #include "platform/run_time_error.h"
+#include "support/waiting.h"
 #include "window/operators_hand.h"
 #include "window/window_fixture.h"
 
@@ -75,6 +77,25 @@ TEST_F(QtHost, a_question_gives_the_answer) {
   }
 }
 
+TEST_F(QtHost, a_long_question_fits_the_display_with_its_buttons_in_sight) {
+  std::string findings;
+  for (int i = 1; i <= 75; ++i) findings += "FATAL ERROR : finding " + std::to_string(i) + "\r\n";
+  whenOpened<QMessageBox>([](QMessageBox& box) {
+    EXPECT_TRUE(box.text().startsWith("The notice contains error\nFATAL ERROR : finding 1\n"));
+    EXPECT_TRUE(box.text().endsWith("FATAL ERROR : finding 75\n\nContinue to update the notice?"));
+    const auto* const text = box.findChild<QPlainTextEdit*>("LongText");
+    EXPECT_TRUE(text != nullptr && text->toPlainText() == box.text());
+    EXPECT_TRUE(waitFor([&box] { return box.isVisible() && box.height() > 0; }));
+    EXPECT_LE(box.height(), box.screen()->availableSize().height());
+    for (const QAbstractButton* const button : box.buttons())
+      EXPECT_TRUE(box.rect().contains({button->mapTo(&box, QPoint()), button->size()}));
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_TRUE(
+      host.askYesNo({"The notice contains error\r\n" + findings + "\r\nContinue to update the notice?",
+                     "Update Notice with errors"}));
+}
+
 TEST_F(QtHost, a_question_left_by_escape_is_a_no) {
   whenOpened<QMessageBox>([](QMessageBox& box) { box.reject(); });
   EXPECT_FALSE(host.askYesNo({"?", "", BoxIcon::information}));
@@ -100,6 +121,7 @@ TEST_F(QtHost, the_open_dialog_asks_for_what_was_requested_and_gives_the_path) {
     EXPECT_EQ(dialog.nameFilters(), QStringList({"Text Files (*.txt)", "Updated Files (*.upd)"}));
     EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder.path());
     EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+    EXPECT_EQ(dialog.objectName(), "CMDialog");
     EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog));
     // What selectFile would not do while the line has the focus.
     dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
@@ -170,9 +192,7 @@ TEST_F(QtHost, the_first_text_viewer_on_the_path_gets_the_file) {
   std::filesystem::create_symlink("/bin/mv", folder.file("tools/mv"));
   qputenv("PATH", QByteArray::fromStdString(folder.path() + ":" + folder.file("tools")));
   EXPECT_TRUE(host.startTextViewer("/srv/a file; \xC3\xA9.txt"));
-  for (int i = 0; i < 500 && !std::filesystem::exists(seen); ++i) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  }
+  EXPECT_TRUE(waitFor([&seen] { return std::filesystem::exists(seen); }));
   EXPECT_EQ(readFile(seen), "gedit /srv/a file; \xC3\xA9.txt");
   qputenv("PATH", QByteArray::fromStdString(folder.file("tools")));
   EXPECT_FALSE(host.startTextViewer("/srv/file.txt"));

@@ -7,6 +7,8 @@
 #include <QTest>
 
 #include "screens/err_msg_frm.h"
+#include "support/contrast.h"
+#include "support/dark_palette.h"
 #include "window/operators_hand.h"
 #include "window/window_fixture.h"
 
@@ -90,6 +92,25 @@ TEST_F(Window, starts_with_what_has_nothing_to_show_hidden) {
     EXPECT_TRUE(menu(on).isEnabled()) << on;
   }
   EXPECT_TRUE(script.boxes.empty());
+}
+
+void expectReadable(QLabel& hint) {
+  const QColor ground = hint.palette().color(hint.backgroundRole());
+  EXPECT_GE(contrast(hint.palette().color(hint.foregroundRole()), ground), kReadable);
+  EXPECT_GE(contrastIn(hint.grab(hint.contentsRect()).toImage(), ground), kVisible);
+}
+
+TEST_F(Window, the_first_hint_can_be_read_on_light_and_dark_desktops) {
+  start();
+  QLabel* hint = nullptr;
+  for (QLabel* const label : window.findChildren<QLabel*>()) {
+    if (label->text() == "To check a notice file, choose File > OpenTxt.") hint = label;
+  }
+  ASSERT_NE(hint, nullptr);
+  EXPECT_TRUE(hint->isVisible());
+  expectReadable(*hint);
+  const DarkDesktop dark;
+  expectReadable(*hint);
 }
 
 TEST_F(Window, english_keeps_the_check_mark_whatever_language_is_chosen) {
