@@ -35,6 +35,16 @@ constexpr std::string_view kHint = "To check a notice file, choose File > OpenTx
 // The words that every status text with bad news has, and no other.
 constexpr std::string_view kBadNews = "has error";
 
+// What a command may spend on painting each running number. After that they are painted as often as an eye
+// can follow, so that a long file doesn't wait for them.
+constexpr std::chrono::milliseconds kTimeForNumbers(500);
+
+// A status without the number that it ends in.
+std::string_view wordsOf(std::string_view status) {
+  const std::size_t last = status.find_last_not_of("0123456789");
+  return status.substr(0, last == std::string_view::npos ? 0 : last + 1);
+}
+
 QString nameOf(std::string_view name) {
   return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
 }
@@ -198,21 +208,33 @@ void MainWindow::draw(const MainScreen& screen) {
 }
 
 void MainWindow::setStatus(std::string_view text) {
+  const bool isRunningNumber = wordsOf(text) == wordsOf(status_);
+  // The last number of a stage is seen before the next stage begins.
+  if (!isRunningNumber) paintStatus();
   status_ = text;
-  if (!running_) showStatus();
+  if (!isRunningNumber) return refresh();
+  if (numbersPainted_ >= kTimeForNumbers) return;
+  const auto before = std::chrono::steady_clock::now();
+  paintStatus();
+  numbersPainted_ += std::chrono::steady_clock::now() - before;
 }
 
-void MainWindow::showStatus() {
+void MainWindow::paintStatus() {
+  if (showStatus()) TxtProcessingStatus_->repaint();
+}
+
+bool MainWindow::showStatus() {
   const QString text = fromText(status_);
-  if (text == TxtProcessingStatus_->text()) return;
+  if (text == TxtProcessingStatus_->text()) return false;
   TxtProcessingStatus_->setText(text);
   TxtProcessingStatus_->setCursorPosition(0);
   const bool bad = status_.find(kBadNews) != std::string::npos;
-  if (bad == errorMark_->isVisible()) return;
+  if (bad == errorMark_->isVisible()) return true;
   errorMark_->setVisible(bad);
   QFont font = TxtProcessingStatus_->font();
   font.setBold(bad);
   TxtProcessingStatus_->setFont(font);
+  return true;
 }
 
 void MainWindow::refresh() {
@@ -226,6 +248,7 @@ void MainWindow::refresh() {
 void MainWindow::runCommand(std::string_view name, const std::function<void(Shell&, QWidget&)>& command) {
   if (running_) return;
   running_ = true;
+  numbersPainted_ = {};
   runGuarded(shell_.host, name, [this, &command] { command(shell_, *this); });
   running_ = false;
   draw(shell_.screen);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -29,7 +30,8 @@ class MainWindow final : public QMainWindow {
   MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow() override;
 
-  // The text of the status line. While a command runs it is shown with the next refresh.
+  // The text of the status line, painted at once. Only running numbers, once painting them has taken a while,
+  // are left to the next refresh.
   void setStatus(std::string_view text);
 
   // Brings to the display what has changed, and handles what has queued up but for the user's input.
@@ -49,11 +51,14 @@ class MainWindow final : public QMainWindow {
   void makeControls();
   QPushButton* makeButton(std::string_view name, std::string_view caption, char mnemonic, Command command);
   void draw(const MainScreen& screen);
-  void showStatus();
+  // Gives whether the line shows another text than before.
+  bool showStatus();
+  void paintStatus();
 
   Shell& shell_;
   std::optional<MainScreen> drawn_;
   std::string status_;
+  std::chrono::nanoseconds numbersPainted_{};  // the time that this command has spent on painting them
   bool running_ = false;
   bool closeWanted_ = false;
 
