@@ -375,6 +375,8 @@ bool NoticeWindow::askToLeave(QWidget& field) {
 }
 
 void NoticeWindow::keyPressEvent(QKeyEvent* event) {
+  // Edits are dropped by who closes the form, and not by a key that leaves lists and boxes as well.
+  if (event->matches(QKeySequence::Cancel)) return;
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QDialog::keyPressEvent(event);
   // Return presses the button that has the focus, and no other.
   if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) button->click();
@@ -426,9 +428,10 @@ void NoticeWindow::focus(const std::string& name) {
   if (!leaving_) return focusNow(*wanted);
   // Who goes back with Shift+Tab isn't sent forward again.
   if ((QGuiApplication::keyboardModifiers() & Qt::ShiftModifier) != 0) return;
-  // The key or the click that leaves the field still has its own way to go.
-  QMetaObject::invokeMethod(
-      this, [this, wanted] { focusNow(*wanted); }, Qt::QueuedConnection);
+  // Where a click has turned the page, that page stays in front.
+  checks_->afterLeaving([this, wanted] {
+    if (wanted->isVisible()) focusNow(*wanted);
+  });
 }
 
 void NoticeWindow::focusNow(QWidget& wanted) {

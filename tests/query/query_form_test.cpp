@@ -3,6 +3,7 @@
 #include <QScrollArea>
 
 #include "query/query_form_fixture.h"
+#include "support/waiting.h"
 
 // The font library keeps what it has read until the program's end, and the leak checker can't see that.
 extern "C" const char* __lsan_default_suppressions();
@@ -533,7 +534,7 @@ TEST_F(QueryForm, closes_whatever_stands_in_the_field) {
   expectCloses([this] { QTest::keyClick(&field("Txt_MM"), Qt::Key_Escape); });
   expectCloses([this] {
     QTest::keyClick(&*form, Qt::Key_C, Qt::AltModifier);
-    QTest::qWait(150);
+    test::waitForButtons(*form);
   });
   expectCloses([this] { form->close(); });
 }
@@ -568,7 +569,7 @@ TEST_F(QueryForm, adds_with_the_letters_of_its_buttons) {
   clickItem("DataList_Ctry", "MCO");
   QTest::keyClick(&*form, Qt::Key_A, Qt::AltModifier);
   QTest::keyClick(&*form, Qt::Key_D, Qt::AltModifier);
-  QTest::qWait(150);
+  test::waitForButtons(*form);
   EXPECT_EQ(items("SelectAdmList"), Texts{"F"});
   EXPECT_EQ(items("SelectCtryList"), Texts{"MCO"});
 }
@@ -577,8 +578,8 @@ TEST_F(QueryForm, scrolls_downwards_only_on_a_small_display) {
   for (int i = 0; i < 120; ++i) putNotice("A" + std::to_string(i + 10), "F");
   open();
   form->resize(671, 336);
-  QTest::qWait(50);
   auto& area = *form->findChild<QScrollArea*>();
+  EXPECT_TRUE(test::waitFor([&area] { return area.viewport()->height() < 336; }));
   EXPECT_LE(area.widget()->minimumSizeHint().width(), area.viewport()->width());
   field("Txt_DD").setFocus();
   QTest::keyClick(&field("Txt_DD"), Qt::Key_Tab);

@@ -3,6 +3,7 @@
 
 #include "database/notice_store.h"
 #include "screens_window/real_form.h"
+#include "support/waiting.h"
 
 namespace zamo::test {
 namespace {
@@ -89,6 +90,30 @@ TEST_F(AllotmentForms, a_number_of_sub_areas_hides_the_geographic_area_and_empty
   expectTold({});
 }
 
+TEST_F(AllotmentForms, of_two_stored_ways_the_one_that_is_left_stays_and_the_other_goes) {
+  for (const char* type : {"GS2", "GT2"}) {
+    SCOPED_TRACE(type);
+    NtcRec ntc = makeKind(type);
+    ntc.digital.allot.t_geo_area = "F";
+    ntc.digital.allot.t_nb_sub_areas = "1";
+    ntc.digital.allot.t_contour_id = {"1"};
+    for (const bool leavesNumber : {true, false}) {
+      SCOPED_TRACE(leavesNumber);
+      openNew(ntc, [&](Operator& hand) {
+        expectSeen(hand, kWholeCountry, true);
+        expectSeen(hand, kSubAreas, true);
+        hand.go(leavesNumber ? "Txt_LMZ04_nb_sub_areas" : "Combo_LMZ04_geo_area");
+        hand.tab();
+        expectSeen(hand, kWholeCountry, !leavesNumber);
+        expectSeen(hand, kSubAreas, leavesNumber);
+        EXPECT_EQ(hand.text("Combo_LMZ04_geo_area"), "F");
+        EXPECT_EQ(hand.text("Txt_LMZ04_nb_sub_areas"), "1");
+      });
+    }
+  }
+  expectTold({});
+}
+
 TEST_F(AllotmentForms, without_a_number_the_sub_areas_are_locked_and_grey) {
   onBoth([](Operator& hand) {
     hand.pick("Combo_LMZ04_geo_area", "");
@@ -159,6 +184,81 @@ TEST_F(AllotmentForms, leaving_the_number_by_a_click_hands_the_focus_to_an_empty
     }
     hand.click("Txt_AdmRefID");
     EXPECT_EQ(hand.focused(), "Txt_AdmRefID");
+  });
+  expectTold({});
+}
+
+TEST_F(AllotmentForms, a_click_that_leaves_the_number_does_what_it_says_once_before_the_focus_goes_on) {
+  onBoth("2", {"1", "2"}, [this](Operator& hand) {
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    dialogSteps.push_back([](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), "ErrMsgFrm"); });
+    hand.clickSlowly("Button_Validate");
+    EXPECT_TRUE(dialogSteps.empty());
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_contour_id");
+
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    hand.clickSlowly("OptInt_Mod");
+    EXPECT_TRUE(hand.isSet("OptInt_Mod"));
+    EXPECT_TRUE(hand.sees("FrameTrg"));
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_contour_id");
+
+    hand.type("Txt_LMZ04_contour_id", "77");
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    hand.clickSlowly("Button_Add_Contour");
+    expectTold({": First type in a Contour ID"});
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_contour_id");
+    EXPECT_THAT(hand.items("ListBoxContourID"), ElementsAre("1", "2"));
+  });
+  expectTold({});
+}
+
+TEST_F(AllotmentForms, a_page_that_is_clicked_from_the_number_comes_to_the_front_and_stays) {
+  onBoth("2", {"1", "2"}, [](Operator& hand) {
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    auto& pages = hand.control<QTabWidget>("Pages");
+    hand.clickSlowly(*pages.tabBar(), pages.tabBar()->tabRect(1).center());
+    EXPECT_EQ(pages.currentIndex(), 1);
+    EXPECT_EQ(hand.focused(), "ListAdmAvail");
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    hand.press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(pages.currentIndex(), 1);
+  });
+  expectTold({});
+}
+
+TEST_F(AllotmentForms, a_list_that_is_clicked_from_the_number_can_be_chosen_from) {
+  onBoth("2", {"1", "2"}, [](Operator& hand) {
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    auto& polarization = hand.control<QComboBox>("Combo_9D_Polariz");
+    hand.clickSlowly("Combo_9D_Polariz");
+    ASSERT_TRUE(polarization.view()->isVisible());
+    QTest::keyClick(polarization.view(), Qt::Key_End);
+    QTest::keyClick(polarization.view(), Qt::Key_Return);
+    activate(hand.window);
+    EXPECT_EQ(hand.text("Combo_9D_Polariz"), "U");
+    EXPECT_TRUE(waitFor([&hand] { return hand.focused() == "Txt_LMZ04_contour_id"; }));
+  });
+  expectTold({});
+}
+
+TEST_F(AllotmentForms, a_step_of_the_walk_from_the_number_is_one_step) {
+  std::vector<std::string> keys;
+  for (const char* count : {"2", "1", "2"}) {
+    NtcRec ntc = makeKind("GT2");
+    ntc.t_adm_ref_id = "F-WALK-" + std::to_string(keys.size());
+    ntc.digital.allot.t_geo_area.clear();
+    ntc.digital.allot.t_nb_sub_areas = count;
+    ntc.digital.allot.t_contour_id = {"1", *count == '2' ? "2" : ""};
+    keys.push_back(std::to_string(add(ntc)));
+  }
+  open(0, [&](Operator& hand) {
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    hand.clickSlowly("Button_Next_Ntc");
+    EXPECT_EQ(hand.text("Txt_Ntc_Number"), keys[1]);
+    EXPECT_EQ(hand.text("Txt_LMZ04_nb_sub_areas"), "1");
+    hand.go("Txt_LMZ04_nb_sub_areas");
+    hand.clickSlowly("Button_Prev_Ntc");
+    EXPECT_EQ(hand.text("Txt_Ntc_Number"), keys[0]);
   });
   expectTold({});
 }
@@ -296,7 +396,7 @@ TEST_F(AllotmentForms, every_wrong_value_is_told_once_and_keeps_the_focus_until_
       EXPECT_NE(hand.focused(), row.field);
       expectTold({});
       hand.type(row.field, row.wrong);
-      hand.press(Qt::Key_Escape);
+      hand.click("Button_Reset");
       EXPECT_FALSE(hand.window.isVisible());
     });
     EXPECT_LE(script.boxes.size(), 1U);

@@ -4,6 +4,7 @@
 #include "platform/numbers.h"
 #include "screens/screen_mapping.h"
 #include "screens_window/real_form.h"
+#include "support/waiting.h"
 
 namespace zamo::test {
 namespace {
@@ -153,6 +154,20 @@ TEST_F(AssignmentForms, a_short_agency_gets_its_zeros_on_leaving) {
   });
 }
 
+TEST_F(AssignmentForms, an_agency_is_checked_as_it_was_typed_and_not_once_more_with_its_zeros) {
+  onBoth([&](Operator& hand) {
+    hand.enter("Txt_12A_OpAgcy", "-1");
+    EXPECT_EQ(hand.text("Txt_12A_OpAgcy"), "0-1");
+    EXPECT_NE(hand.focused(), "Txt_12A_OpAgcy");
+    expectTold({});
+    hand.type("Txt_12A_OpAgcy", "-2");
+    hand.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(hand.text("Txt_12A_OpAgcy"), "0-2");
+    EXPECT_NE(hand.focused(), "Txt_12A_OpAgcy");
+    expectTold({});
+  });
+}
+
 TEST_F(AssignmentForms, an_empty_altitude_can_be_left_and_is_told_when_the_notice_is_saved) {
   onBoth([&](Operator& hand) {
     expectTaken(hand, "Txt_9EA_SiteAlt", "");
@@ -207,7 +222,7 @@ TEST_F(AssignmentForms, a_wrong_value_keeps_every_other_control_back_with_one_bo
     hand.press(Qt::Key_Backtab);
     expectTold({told});
     hand.press(Qt::Key_U, Qt::AltModifier);
-    QTest::qWait(150);
+    waitForButtons(hand.window);
     expectTold({told});
     hand.click("Opt_Art4");
     expectTold({told});
@@ -230,10 +245,9 @@ TEST_F(AssignmentForms, a_form_with_a_wrong_value_can_be_closed_in_every_way) {
   const std::vector<std::function<void(Operator&)>> ways = {
       [](Operator& hand) { hand.click("Button_Reset"); },
       [](Operator& hand) { hand.window.close(); },
-      [](Operator& hand) { hand.press(Qt::Key_Escape); },
       [](Operator& hand) {
         hand.press(Qt::Key_C, Qt::AltModifier);
-        QTest::qWait(150);
+        waitForButtons(hand.window);
       },
   };
   for (const auto& leave : ways) {

@@ -160,6 +160,42 @@ TEST_F(ContourWindow, leaving_the_count_by_a_click_goes_to_the_longitude_too) {
   });
 }
 
+TEST_F(ContourWindow, a_click_that_leaves_the_count_does_what_it_says_once_before_the_focus_goes_on) {
+  onTriangle([this](Operator& hand) {
+    hand.go(kCount);
+    dialogSteps.push_back([](QDialog& dialog) { EXPECT_EQ(dialog.objectName(), "ErrMsgFrm"); });
+    hand.clickSlowly("Button_Validate");
+    EXPECT_TRUE(dialogSteps.empty());
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long");
+    hand.go(kCount);
+    hand.clickSlowly("OptInt_Suppress");
+    EXPECT_TRUE(hand.isSet("OptInt_Suppress"));
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long");
+    hand.go(kCount);
+    hand.clickSlowly("Button_ClearAll_Coordinates");
+    EXPECT_THAT(hand.items(kList), IsEmpty());
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long");
+    expectTold({});
+  });
+}
+
+TEST_F(ContourWindow, a_step_of_the_walk_from_the_count_is_one_step) {
+  run.qryIsNotice = false;
+  for (const char* id : {"1", "2", "3"}) {
+    NtcRec ntc = makeKind("GA1");
+    ntc.digital.contour.t_contour_id = id;
+    add(ntc);
+  }
+  open(0, [](Operator& hand) {
+    for (const char* next : {"2", "3"}) {
+      hand.go(kCount);
+      hand.clickSlowly("Button_Next_Ntc");
+      EXPECT_EQ(hand.text("Txt_LMZ04_contour_id"), next);
+    }
+  });
+  expectTold({});
+}
+
 TEST_F(ContourWindow, the_count_is_followed_while_it_is_typed) {
   onTriangle([](Operator& hand) {
     hand.go(kCount);

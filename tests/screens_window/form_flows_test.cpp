@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "screens_window/real_form.h"
+#include "support/waiting.h"
 
 namespace zamo::test {
 namespace {
@@ -396,7 +397,7 @@ TEST_F(Walk, goes_through_contours_and_back_in_one_window) {
     hand.click("Button_Next_Ntc");
     expectContour("13", 2);
     hand.press(Qt::Key_Left, Qt::AltModifier);
-    QTest::qWait(150);
+    waitForButtons(hand.window);
     expectContour("12", 1);
     hand.click("Button_Prev_Ntc");
     expectContour("11", 0);

@@ -133,6 +133,20 @@ class Operator {
     QCoreApplication::processEvents();
   }
 
+  // As a display gives it: the program goes on between the press and the release.
+  void clickSlowly(QWidget& target, QPoint place) {
+    const QPoint at = target.mapTo(&window, place);
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, at);
+    QCoreApplication::processEvents();
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at);
+    QCoreApplication::processEvents();
+  }
+  void clickSlowly(const std::string& name) {
+    QWidget& target = control(name);
+    EXPECT_TRUE(target.isVisible()) << name << " is out of sight";
+    clickSlowly(target, {std::min(10, target.width() / 2), target.height() / 2});
+  }
+
   void clickItem(const std::string& name, int row) { hitItem(name, row, false); }
   void doubleClickItem(const std::string& name, int row) { hitItem(name, row, true); }
   void clickItem(const std::string& name, const std::string& item) {

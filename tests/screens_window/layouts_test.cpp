@@ -12,6 +12,7 @@
 #include <map>
 
 #include "screens_window/shown_form.h"
+#include "support/waiting.h"
 
 namespace zamo {
 namespace {
@@ -370,7 +371,7 @@ void expectItFits(QSize size, bool sideways) {
     auto* const pages = shown.window->findChild<QTabWidget*>("Pages");
     for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
       if (pages != nullptr) pages->setCurrentIndex(page);
-      QTest::qWait(1);
+      test::waitForLayouts();
       expectNothingIsCut(shown);
       if (!sideways) expectNoScrollingSideways(shown);
     }
@@ -423,7 +424,7 @@ TEST(Layouts, show_a_whole_page_without_scrolling_on_a_whole_display) {
     auto* const pages = shown.window->findChild<QTabWidget*>("Pages");
     for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
       if (pages != nullptr) pages->setCurrentIndex(page);
-      QTest::qWait(1);
+      test::waitForLayouts();
       for (const QScrollArea* const area : shown.window->findChildren<QScrollArea*>()) {
         if (area->isVisible()) {
           EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << code << " " << page;

@@ -6,12 +6,16 @@
 #include <QGroupBox>
 #include <QScrollArea>
 #include <QTabBar>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include "platform/run_time_error.h"
 #include "screens/notice_walk.h"
 #include "screens_window/shown_form.h"
+#include "support/contrast.h"
+#include "support/dark_palette.h"
+#include "support/tool_tips.h"
+#include "support/waiting.h"
+#include "window/operators_hand.h"
 
 namespace zamo {
 namespace {
@@ -49,6 +53,61 @@ TEST(NoticeWindow, is_named_after_its_form) {
     shown.show();
     EXPECT_EQ(shown.window->objectName(), name);
   }
+}
+
+TEST(NoticeWindow, stays_open_when_escape_is_pressed_anywhere) {
+  for (const FormCode code : test::kEveryForm) {
+    ShownForm shown(code);
+    shown.show();
+    for (QWidget* const part : shown.window->findChildren<QWidget*>()) {
+      if (!part->isVisible() || !part->isEnabled() || part->focusPolicy() == Qt::NoFocus) continue;
+      part->setFocus();
+      QTest::keyClick(part, Qt::Key_Escape);
+      ASSERT_TRUE(shown.window->isVisible()) << code << " " << part->objectName().toStdString();
+    }
+    EXPECT_THAT(shown.raised, IsEmpty());
+  }
+}
+
+TEST_F(TelevisionAssignment, escape_closes_an_open_list_and_chooses_nothing) {
+  show();
+  QComboBox& mask = combo("Combo_LMZ04_SpectMask");
+  mask.setFocus();
+  QTest::keyClick(&mask, Qt::Key_Down, Qt::AltModifier);
+  ASSERT_TRUE(mask.view()->isVisible());
+  QTest::keyClick(mask.view(), Qt::Key_Down);
+  QTest::keyClick(mask.view(), Qt::Key_Escape);
+  EXPECT_FALSE(mask.view()->isVisible());
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(form.screen.text("Combo_LMZ04_SpectMask"), "");
+}
+
+TEST_F(TelevisionAssignment, a_tip_with_markup_is_shown_as_it_stands) {
+  show();
+  for (const char* const name : {"Txt_9E_AntHgt", "Combo_9D_Polariz", "Lbl_9E_AntHgt", "Button_Validate"}) {
+    control(name).setToolTip("<b>A</b> <img src='/dev/zero'>");
+    EXPECT_EQ(test::tipAt(control(name), {2, 2}), "<b>A</b> <img src='/dev/zero'>") << name;
+  }
+  EXPECT_EQ(test::tipAt(control("Button_Next"), {2, 2}), "Update the Notice changes in the database");
+}
+
+TEST_F(Contour, hints_in_empty_fields_can_be_read_on_light_and_dark_desktops) {
+  show();
+  const auto expectReadable = [this](bool locked) {
+    form.screen.setGrey("Txt_LMZ04_Deg_Long", locked);
+    QLineEdit& field = box("Txt_LMZ04_Deg_Long");
+    const QColor ground = field.palette().color(QPalette::Base);
+    for (const QPalette::ColorRole role : {QPalette::PlaceholderText, QPalette::Text})
+      EXPECT_GE(test::contrast(field.palette().color(role), ground), test::kReadable) << locked << role;
+    const QImage inside = field.grab(field.rect().adjusted(3, 3, -3, -3)).toImage();
+    EXPECT_GE(test::contrastIn(inside, ground), test::kVisible) << locked;
+  };
+  EXPECT_EQ(box("Txt_LMZ04_Deg_Long").placeholderText(), "deg");
+  expectReadable(false);
+  expectReadable(true);
+  const test::DarkDesktop dark;
+  expectReadable(false);
+  expectReadable(true);
 }
 
 // --- from the user to the screen
@@ -295,12 +354,12 @@ TEST_F(TelevisionAssignment, captions_and_the_title_follow) {
 TEST_F(TelevisionAssignment, what_is_hidden_leaves_its_place) {
   show();
   const auto placeOf = [this](const char* name) { return control(name).mapTo(window.get(), QPoint()); };
-  QTest::qWait(1);
+  test::waitForLayouts();
   const QPoint site = placeOf("Txt_4A_SiteName");
   const QPoint planEntry = placeOf("Txt_PlanAdm_RefID");
   const QPoint power = placeOf("Txt_8BV_Erp_V");
   form.screen.setVisible({"FrameTrg", "Frame_Art4_Only", "Txt_8BH_Erp_H", "Lbl_8BH_Erp_H"}, false);
-  QTest::qWait(1);
+  test::waitForLayouts();
   EXPECT_FALSE(box("Txt_8BH_Erp_H").isVisible());
   EXPECT_FALSE(box("Txt_TrgAdmRefID").isVisible());
   EXPECT_EQ(placeOf("Txt_4A_SiteName"), site);
@@ -312,10 +371,10 @@ TEST_F(TelevisionAssignment, what_is_hidden_leaves_its_place) {
 
 TEST_F(TelevisionAssignment, common_buttons_that_are_hidden_leave_no_gap) {
   show();
-  QTest::qWait(1);
+  test::waitForLayouts();
   const QPoint place = button("Button_Next").pos();
   form.screen.setVisible("Button_Next", false);
-  QTest::qWait(1);
+  test::waitForLayouts();
   EXPECT_EQ(button("Button_AddNew").pos(), place);
 }
 
@@ -425,10 +484,14 @@ TEST_F(WrongHeight, is_no_obstacle_to_the_frame) {
   EXPECT_EQ(asked, 0);
 }
 
-TEST_F(WrongHeight, is_no_obstacle_to_escape) {
+TEST_F(WrongHeight, stays_when_escape_is_pressed) {
+  raised.clear();
   QTest::keyClick(&box("Txt_9E_AntHgt"), Qt::Key_Escape);
-  EXPECT_FALSE(window->isVisible());
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(focused(), "Txt_9E_AntHgt");
+  EXPECT_EQ(box("Txt_9E_AntHgt").text(), "900");
   EXPECT_EQ(asked, 0);
+  EXPECT_THAT(raised, IsEmpty());
 }
 
 TEST_F(TelevisionAllotment, a_field_that_hands_the_focus_on_when_it_is_left_has_its_way) {
@@ -439,12 +502,11 @@ TEST_F(TelevisionAllotment, a_field_that_hands_the_focus_on_when_it_is_left_has_
   show();
   box("Txt_LMZ04_nb_sub_areas").setFocus();
   QTest::keyClick(&box("Txt_LMZ04_nb_sub_areas"), Qt::Key_Tab);
-  QTest::qWait(1);
-  EXPECT_EQ(focused(), "Txt_LMZ04_contour_id");
+  EXPECT_TRUE(test::waitFor([this] { return focused() == "Txt_LMZ04_contour_id"; }));
   box("Txt_LMZ04_nb_sub_areas").setFocus();
   QTest::mouseClick(&box("Txt_KV19_Offset"), Qt::LeftButton);
-  QTest::qWait(1);
-  EXPECT_EQ(focused(), "Txt_LMZ04_contour_id");
+  EXPECT_EQ(focused(), "Txt_KV19_Offset");
+  EXPECT_TRUE(test::waitFor([this] { return focused() == "Txt_LMZ04_contour_id"; }));
 }
 
 TEST_F(TelevisionAssignment, the_field_that_the_program_wants_comes_to_the_front) {
@@ -463,11 +525,9 @@ TEST_F(TelevisionAssignment, a_page_that_is_clicked_is_ready_to_be_typed_into) {
   EXPECT_EQ(focused(), "Combo_B_Adm");
   QTabBar& tabs = *pages().tabBar();
   QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
-  QTest::qWait(1);
-  EXPECT_EQ(focused(), "Txt_9EC_azm000");
+  EXPECT_TRUE(test::waitFor([this] { return focused() == "Txt_9EC_azm000"; }));
   QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(2).center());
-  QTest::qWait(1);
-  EXPECT_EQ(focused(), "ListAdmAvail");
+  EXPECT_TRUE(test::waitFor([this] { return focused() == "ListAdmAvail"; }));
 }
 
 // --- the keys
@@ -482,14 +542,13 @@ TEST_F(TelevisionAssignment, the_buttons_have_keys) {
                                                                        {Qt::Key_Left, Qt::AltModifier},
                                                                        {Qt::Key_Right, Qt::AltModifier}}) {
     QTest::keyClick(&box("Txt_9E_AntHgt"), key, modifier);
-    QTest::qWait(150);  // a button that a key presses comes up a moment later
+    test::waitForButtons(*window);
   }
   EXPECT_THAT(raised, ElementsAre("click Button_Next by the user", "click Button_AddNew by the user",
                                   "click Button_Finish by the user", "click Button_Validate by the user",
                                   "click Button_Prev_Ntc by the user", "click Button_Next_Ntc by the user"));
   QTest::keyClick(&box("Txt_9E_AntHgt"), Qt::Key_C, Qt::AltModifier);
-  QTest::qWait(150);
-  EXPECT_FALSE(window->isVisible());
+  EXPECT_TRUE(test::waitFor([this] { return !window->isVisible(); }));
 }
 
 TEST_F(TelevisionAssignment, return_presses_the_button_that_has_the_focus_and_no_other) {
@@ -575,10 +634,8 @@ TEST_F(TelevisionAssignment, a_check_that_fails_holds_nobody) {
 
 TEST_F(Contour, is_shown_until_the_form_closes) {
   bool wasModal = false;
-  QTimer::singleShot(50, [&] {
-    QWidget* const shown = QApplication::activeModalWidget();
-    ASSERT_NE(shown, nullptr);
-    wasModal = shown->objectName() == "GA1SubAllotFrmKV19";
+  test::operatorDoes<NoticeWindow>(*qApp, [&](const NoticeWindow& shown) {
+    wasModal = shown.objectName() == "GA1SubAllotFrmKV19";
     form.close();
   });
   showNoticeWindow(form, nullptr);
@@ -589,8 +646,8 @@ TEST_F(Contour, is_shown_until_the_form_closes) {
 TEST_F(Contour, the_next_form_of_a_walk_takes_the_place_of_the_last) {
   const QRect place(40, 30, 700, 560);
   const auto closeAt = [&](NoticeForm& shown, const std::function<void(QWidget&)>& look) {
-    QTimer::singleShot(50, [&shown, look] {
-      look(*QApplication::activeModalWidget());
+    test::operatorDoes<NoticeWindow>(*qApp, [&shown, look](NoticeWindow& opened) {
+      look(opened);
       shown.close();
     });
     showNoticeWindow(shown, nullptr);

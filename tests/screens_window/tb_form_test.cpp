@@ -311,7 +311,7 @@ TEST_F(TbForms, every_wrong_value_of_a_TB2_is_told_once_and_keeps_the_focus_unti
       expectTold({});
     }
     hand.type("Txt_4C_EW", "X");
-    hand.press(Qt::Key_Escape);
+    hand.click("Button_Reset");
     EXPECT_FALSE(hand.window.isVisible());
   });
   EXPECT_LE(script.boxes.size(), 1U);

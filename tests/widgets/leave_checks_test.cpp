@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "support/waiting.h"
 #include "support/widgets_application.h"
 #include "widgets/upper_case.h"
 
@@ -33,6 +34,8 @@ class LeaveChecksForm : public testing::Test {
   }
 
   bool check(QWidget& field) {
+    ++asked;
+    whenLeft();
     const auto* const line = qobject_cast<QLineEdit*>(&field);
     if (line == nullptr || line->text().isEmpty() || line->text().front().isDigit()) return true;
     ++refusals;
@@ -48,6 +51,8 @@ class LeaveChecksForm : public testing::Test {
   QPushButton* shut = new QPushButton("&Close");
   int acted = 0;
   int refusals = 0;
+  int asked = 0;
+  std::function<void()> whenLeft = [] {};
   LeaveChecks checks{form, [this](QWidget& field) { return check(field); }};
 };
 
@@ -96,7 +101,7 @@ TEST_F(LeaveChecksForm, two_wrong_fields_are_told_one_at_a_time) {
 TEST_F(LeaveChecksForm, a_mnemonic_is_swallowed_too) {
   QTest::keyClicks(first, "x");
   QTest::keyClick(&form, Qt::Key_A, Qt::AltModifier);
-  QTest::qWait(150);
+  test::waitForButtons(form);
   EXPECT_EQ(acted, 0);
   EXPECT_EQ(refusals, 1);
 }
@@ -117,6 +122,57 @@ TEST_F(LeaveChecksForm, the_frame_and_escape_close_as_well) {
   QTest::keyClick(&form, Qt::Key_Escape);
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(refusals, 0);
+}
+
+TEST_F(LeaveChecksForm, a_key_that_leaves_a_field_asks_once) {
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+    asked = 0;
+    second->setFocus();
+    asked = 0;
+    QTest::keyClick(second, key);
+    EXPECT_FALSE(second->hasFocus());
+    EXPECT_EQ(asked, 1);
+  }
+}
+
+TEST_F(LeaveChecksForm, what_is_typed_after_an_answer_is_asked_about_again) {
+  QTest::keyClicks(first, "1");
+  QTest::keyClick(first, Qt::Key_Return);
+  EXPECT_EQ(asked, 1);
+  first->setText("x");
+  QTest::mouseClick(second, Qt::LeftButton);
+  EXPECT_EQ(refusals, 1);
+  EXPECT_TRUE(first->hasFocus());
+}
+
+// What the field wants when it is left comes after the click that leaves it.
+TEST_F(LeaveChecksForm, a_button_that_is_clicked_keeps_the_focus_until_it_is_up_again) {
+  const auto press = [this](auto&& mouse) {
+    mouse(form.windowHandle(), act->mapTo(&form, act->rect().center()));
+    QCoreApplication::processEvents();
+  };
+  whenLeft = [this] { checks.afterLeaving([this] { second->setFocus(); }); };
+  press([](QWindow* window, QPoint place) { QTest::mousePress(window, Qt::LeftButton, {}, place); });
+  EXPECT_TRUE(act->hasFocus());
+  EXPECT_TRUE(act->isDown());
+  EXPECT_EQ(acted, 0);
+  whenLeft = [] {};
+  press([](QWindow* window, QPoint place) { QTest::mouseRelease(window, Qt::LeftButton, {}, place); });
+  EXPECT_EQ(acted, 1);
+  EXPECT_TRUE(second->hasFocus());
+}
+
+TEST_F(LeaveChecksForm, a_key_has_its_way_before_what_the_field_wants) {
+  whenLeft = [this] {
+    checks.afterLeaving([this] {
+      EXPECT_TRUE(second->hasFocus());
+      act->setFocus();
+    });
+  };
+  QTest::keyClick(first, Qt::Key_Tab);
+  EXPECT_TRUE(second->hasFocus());
+  whenLeft = [] {};
+  EXPECT_TRUE(test::waitFor([this] { return act->hasFocus(); }));
 }
 
 TEST_F(LeaveChecksForm, typed_letters_become_upper_case_and_set_ones_stay) {
