@@ -18,7 +18,8 @@ std::string systemUserName();
 // The folder of the running executable, without a separator at its end.
 std::string executableFolder();
 
-// Whether somebody watches what goes to standard error.
+// Whether somebody watches what goes to standard output, or to standard error.
+bool standardOutputIsTerminal();
 bool standardErrorIsTerminal();
 
 // Gives the text to standard output as it is; false when that doesn't take all of it.

@@ -32,6 +32,10 @@ std::string executableFolder() {
   return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
 }
 
+bool standardOutputIsTerminal() {
+  return ::isatty(STDOUT_FILENO) != 0;
+}
+
 bool standardErrorIsTerminal() {
   return ::isatty(STDERR_FILENO) != 0;
 }

@@ -10,6 +10,13 @@ std::string padded(std::string_view text, std::size_t width) {
   return std::string(zeros, '0').append(text);
 }
 
+// The five bytes that the code page doesn't assign are control characters.
+constexpr bool isControl(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte < 0x20 || byte == 0x7F || byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 ||
+         byte == 0x9D;
+}
+
 }  // namespace
 
 std::string lowerText(std::string_view text) {
@@ -32,6 +39,23 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b) {
 std::string_view characters(std::string_view text, std::size_t first, std::size_t last) {
   if (first > text.size()) return {};
   return text.substr(first - 1, last - first + 1);
+}
+
+std::string withControlsEscaped(std::string_view text) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string escaped;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text.substr(at).starts_with(kLineEnd)) {
+      escaped += kLineEnd;
+      ++at;
+    } else if (isControl(text[at])) {
+      const auto byte = static_cast<unsigned char>(text[at]);
+      escaped.append("\\x").append({kDigits[byte / 16], kDigits[byte % 16]});
+    } else {
+      escaped += text[at];
+    }
+  }
+  return escaped;
 }
 
 std::string padTo2(std::string_view text) {

@@ -58,6 +58,9 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b);
 // Characters `first` to `last`, counted from 1 and both included; what lies beyond the text is left out.
 std::string_view characters(std::string_view text, std::size_t first, std::size_t last);
 
+// Each control character as "\x1B", so that a terminal obeys none of them. Line ends of CR LF stay.
+std::string withControlsEscaped(std::string_view text);
+
 // Each puts zeros in front up to its width and leaves a longer text alone.
 std::string padTo2(std::string_view text);
 std::string padTo3(std::string_view text);

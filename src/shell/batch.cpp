@@ -8,19 +8,24 @@
 #include <vector>
 
 #include "database/export.h"
+#include "database/lookups.h"
 #include "database/read_notice.h"
 #include "noticefile/notice_writer.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "platform/message.h"
 #include "platform/plain_host.h"
 #include "platform/run_time_error.h"
 #include "platform/system.h"
+#include "platform/text.h"
 #include "shell/export_command.h"
 #include "shell/pipeline.h"
 #include "shell/start_up.h"
 
 namespace zamo {
 namespace {
+
+const Message kNoSuchNotice("show: no notice has the key", "The database has no notice with the key %1");
 
 enum ExitStatus { kNothingFound = 0, kFindings = 1, kFailed = 2 };
 
@@ -144,16 +149,34 @@ int judgeFiles(const std::vector<std::string>& files, int level, bool answer, bo
   return judgeFiles(files, {start.host, start.map, level, loads});
 }
 
+// A failed lookup has been told already, and so has a contour that isn't there.
+void tellUnknownKey(const Host& host, std::int32_t key, Connection& connection) {
+  std::vector<std::int32_t> keys;
+  std::int32_t count = 0;
+  const std::string number = std::to_string(key);
+  const std::string sql = "SELECT vornakey FROM fmtv_vorna WHERE vornakey = " + number;
+  if (!getVornaKeyList(host, keys, sql, count, connection) || count > 0) return;
+  host.showBox({kNoSuchNotice.filled({number}), ""});
+}
+
+// A terminal is not to obey what somebody has written into a notice.
+bool printNotice(const std::string& text) {
+  return print(utf8FromText(standardOutputIsTerminal() ? withControlsEscaped(text) : text) + "\n");
+}
+
 int show(const std::string& databasePath, std::int32_t key, bool isContour) {
   const Host host = makePlainHost(true);
   DbConnection connection;
   if (!OpenDB(host, databasePath, connection)) return kFailed;
   NtcRec ntc;
   const auto read = isContour ? readContourNtcFromDB : readNtcFromDB;
-  if (!read(host, key, ntc, *connection)) return kFailed;
+  if (!read(host, key, ntc, *connection)) {
+    if (!isContour) tellUnknownKey(host, key, *connection);
+    return kFailed;
+  }
   const std::string text =
       isContour ? makeContourNotice(ntc, 1) : makeNoticeSection(ntc, 1, targetsOf(host, *connection));
-  return print(utf8FromText(text) + "\n") ? kNothingFound : kFailed;
+  return printNotice(text) ? kNothingFound : kFailed;
 }
 
 bool openWorkingDatabase(const Host& host, const std::string& path, DbConnection& connection) {

@@ -101,5 +101,18 @@ TEST(Padding, a_given_width_gets_two_zeros_at_most) {
   EXPECT_EQ(padToWidth("", 0), "");
 }
 
+TEST(Text, controls_are_escaped_and_line_ends_stay) {
+  EXPECT_EQ(withControlsEscaped(""), "");
+  EXPECT_EQ(withControlsEscaped("one\r\ntwo\r\n"), "one\r\ntwo\r\n");
+  EXPECT_EQ(withControlsEscaped("\r\r\n\n\r"), "\\x0D\r\n\\x0A\\x0D");
+  EXPECT_EQ(withControlsEscaped(std::string_view("\0\x1B]0;x\x07", 7)), "\\x00\\x1B]0;x\\x07");
+}
+
+TEST(Text, what_the_code_page_leaves_free_is_a_control_and_all_else_is_none) {
+  EXPECT_EQ(withControlsEscaped("\x7F\x81\x8D\x8F\x90\x9D"), "\\x7F\\x81\\x8D\\x8F\\x90\\x9D");
+  EXPECT_EQ(withControlsEscaped(" ~\\\x80\x82\x8C\x8E\x91\x9C\x9E\xA0\xFF"),
+            " ~\\\x80\x82\x8C\x8E\x91\x9C\x9E\xA0\xFF");
+}
+
 }  // namespace
 }  // namespace zamo

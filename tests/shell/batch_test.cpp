@@ -176,6 +176,68 @@ TEST_F(Batch, a_file_is_loaded_and_its_notices_are_shown) {
   EXPECT_FALSE(std::filesystem::exists(folder.file("good.mdb-wal")));
 }
 
+class BatchShow : public Batch {
+ protected:
+  // A database with one notice and one contour, and remarks of the notice as the engine is told them.
+  void loadWithRemarks(const std::string& remarks) const {
+    folder.write("good.txt",
+                 "<HEAD>\nt_adm = F\n</HEAD>\n<NOTICE>\nt_notice_type = TB5\nt_trg_adm_ref_id = A1\n"
+                 "t_remarks = x\n</NOTICE>\n<TAIL>\nt_num_notices = 1\n</TAIL>\n");
+    ASSERT_EQ(run("load --level 1 good.txt").output, "good.txt\tok\n");
+    ASSERT_EQ(std::system(("sqlite3 '" + folder.file("good.mdb") +
+                           "' \"UPDATE fmtv_rmks SET rmk_text = " + remarks + "\"")
+                              .c_str()),
+              0);
+  }
+
+  // The call on a terminal of its own, which passes all bytes as they are.
+  std::string onTerminal(const std::string& arguments) const {
+    folder.write("terminal.py",
+                 "import pty, sys\n"
+                 "pty.spawn(['sh', '-c', 'stty -opost; exec \"$@\" 2>err.log', 'sh'] + sys.argv[1:])\n");
+    const std::string command = "cd '" + folder.path() +
+                                "' && python3 terminal.py " ZAMO_BIN "/zamo-kv19-batch " + arguments +
+                                " >out.log </dev/null";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    return readFile(folder.file("out.log"));
+  }
+};
+
+TEST_F(BatchShow, of_an_unknown_key_says_so) {
+  loadWithRemarks("'x'");
+  const Outcome notice = run("show good.mdb 5");
+  EXPECT_EQ(notice.status, 2);
+  EXPECT_EQ(notice.output, "");
+  EXPECT_EQ(notice.messages, "The database has no notice with the key 5\n");
+  const Outcome contour = run("show --contour good.mdb 5");
+  EXPECT_EQ(contour.status, 2);
+  EXPECT_EQ(contour.output, "");
+  EXPECT_EQ(contour.messages,
+            "Read Error: readOnlyContourID: The contour 5 is Missing . Please consult the administrator!\n");
+}
+
+TEST_F(BatchShow, prints_a_notice_with_a_nul_in_it_as_a_whole) {
+  loadWithRemarks("'a' || char(0) || 'b'");
+  const Outcome outcome = run("show good.mdb 83700001");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, std::string("<NOTICE>\r\nNotice No = 1\r\nt_notice_type = TB5\r\n"
+                                        "t_trg_adm_ref_id = A1\r\nt_remarks = a") +
+                                '\0' + "b\r\n</NOTICE>\n");
+}
+
+TEST_F(BatchShow, escapes_control_characters_on_a_terminal_and_nowhere_else) {
+  loadWithRemarks(
+      "'a' || char(0) || char(27) || '[2J' || char(9) || char(13) || 'b' || char(10) || 'c' || char(127) || "
+      "char(129) || char(233) || '\\d'");
+  EXPECT_EQ(onTerminal("show good.mdb 83700001"),
+            "<NOTICE>\r\nNotice No = 1\r\nt_notice_type = TB5\r\nt_trg_adm_ref_id = A1\r\n"
+            "t_remarks = a\\x00\\x1B[2J\\x09\\x0Db\\x0Ac\\x7F\\x81\xC3\xA9\\d\r\n</NOTICE>\n");
+  EXPECT_EQ(run("show good.mdb 83700001").output,
+            std::string("<NOTICE>\r\nNotice No = 1\r\nt_notice_type = TB5\r\nt_trg_adm_ref_id = A1\r\n"
+                        "t_remarks = a") +
+                '\0' + "\x1B[2J\t\rb\nc\x7F\xC2\x81\xC3\xA9\\d\r\n</NOTICE>\n");
+}
+
 TEST_F(Batch, a_question_of_the_load_is_answered_as_the_call_says) {
   const std::string notice =
       "<NOTICE>\nt_notice_type = GT1\nt_adm_ref_id = A1\nt_freq_assgn = 474\n</NOTICE>\n";
