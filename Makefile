@@ -38,7 +38,7 @@ format:
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
 release: packages
-	cmake --preset release
+	cmake --preset release $(cmake_options)
 	cmake --build --preset release
 
 packages:
