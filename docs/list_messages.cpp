@@ -32,8 +32,8 @@ std::string onOneLine(std::string_view words) {
 int main() {
   std::puts("subject\twhen\tmessage");
   zamo::MessageListing::forEach([](const zamo::ListedMessage& message) {
-    const std::string line = subjectOf(message.file) + "\t" + std::string(message.trigger) + "\t" +
-                             zamo::utf8FromText(onOneLine(message.words));
-    std::puts(line.c_str());
+    const std::string line =
+        subjectOf(message.file) + "\t" + std::string(message.trigger) + "\t" + onOneLine(message.words);
+    std::puts(zamo::utf8FromText(line).c_str());
   });
 }
