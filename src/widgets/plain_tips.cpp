@@ -10,6 +10,7 @@ namespace zamo {
 namespace {
 
 constexpr const char* kName = "plainTips";
+constexpr qsizetype kLongestLine = 80;
 
 QString tipOfHeader(const QHeaderView& header, QPoint place) {
   if (header.model() == nullptr) return {};
@@ -30,6 +31,13 @@ QString tipAt(const QWidget& widget, QPoint place) {
   return tipOfItem(*view, place);
 }
 
+// Markup of which nothing shows but the text, blanks included: only as markup a long tip is broken into
+// lines.
+QString asPlainMarkup(const QString& tip) {
+  const char* const lines = tip.size() > kLongestLine ? "pre-wrap" : "pre";
+  return QString("<p style='white-space:%1'>").arg(lines) + tip.toHtmlEscaped() + "</p>";
+}
+
 class PlainTips final : public QObject {
  public:
   explicit PlainTips(QObject& application) : QObject(&application) {
@@ -44,8 +52,7 @@ class PlainTips final : public QObject {
     const auto& help = static_cast<const QHelpEvent&>(*event);
     const QString tip = tipAt(widget, help.pos());
     if (tip.isEmpty()) return false;
-    // As markup of which nothing is left but its text, so that a long tip is broken into lines.
-    QToolTip::showText(help.globalPos(), "<qt>" + tip.toHtmlEscaped() + "</qt>", &widget);
+    QToolTip::showText(help.globalPos(), asPlainMarkup(tip), &widget);
     return true;
   }
 };

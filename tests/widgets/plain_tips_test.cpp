@@ -32,6 +32,23 @@ TEST_F(PlainTips, of_a_widget_are_shown_as_they_stand) {
   EXPECT_EQ(field.toolTip(), kHostile);
 }
 
+TEST_F(PlainTips, stand_on_one_line_unless_they_are_long) {
+  QWidget one;
+  const auto heightOf = [&one](const QString& tip) {
+    one.setToolTip(tip);
+    EXPECT_EQ(tipAt(one, {1, 1}), tip.toStdString());
+    for (const QWidget* const shown : QApplication::topLevelWidgets()) {
+      if (shown->inherits("QTipLabel") && shown->isVisible()) return shown->height();
+    }
+    return 0;
+  };
+  one.show();
+  const int line = heightOf("x");
+  EXPECT_GT(line, 0);
+  EXPECT_EQ(heightOf("DATABASE FILE: /srv/notices  of  2026/<b>france</b>.mdb"), line);
+  EXPECT_GT(heightOf(QString("Type of Plan entry ").repeated(10)), 2 * line);
+}
+
 TEST_F(PlainTips, of_a_part_without_one_are_those_of_what_holds_it) {
   QWidget holder;
   holder.setToolTip(kHostile);
