@@ -111,12 +111,26 @@ std::string latitudeOf(const PointTexts& texts) {
   return texts[4] + texts[5] + texts[6] + texts[7];
 }
 
-// Whether the point lies in the country; the user is told when it doesn't. Without a map it does.
+// Whether each part has the width that it has in an item of the list. A field takes what is a number, also
+// with a sign, a point or zeros before it, of which no list could be read back.
+bool hasItemWidths(const PointTexts& texts) {
+  for (std::size_t i = 0; i < kPointBoxes.size(); ++i) {
+    const bool isLetter = kPointBoxes[i].width == 1;
+    if (texts[i].size() != kPointBoxes[i].width || (!isLetter && !isAllDigits(texts[i]))) return false;
+  }
+  return true;
+}
+
+// Whether the point is one and lies in the country; the user is told when it doesn't. Without a map it does.
 bool liesInCountry(const NoticeForm& form, PointTexts texts) {
   const Workplace& work = form.work;
-  if (!hasMap(work.map)) return true;
   const std::string longitude = longitudeOf(texts);
   const std::string latitude = latitudeOf(texts);
+  if (!hasItemWidths(texts)) {
+    work.host.showBox({kOutside.filled({longitude, latitude, ""}), ""});
+    return false;
+  }
+  if (!hasMap(work.map)) return true;
   const SiteTexts site{texts[0], texts[1], texts[2], texts[3], texts[4], texts[5], texts[6], texts[7]};
   std::string remark;
   if (checkSiteInCountry(work.host, work.map, site, form.screen.text("Combo_4B_Ctry"), remark)) return true;
@@ -155,25 +169,29 @@ void takeOutModified(NoticeForm& form) {
   countDown(screen);
 }
 
-void enterPoint(NoticeForm& form) {
+// Gives whether the point has entered the list.
+bool enterPoint(NoticeForm& form) {
   Screen& screen = form.screen;
   if (form.pointEditMode == kModifyPoint) takeOutModified(form);
   const PointTexts texts = readPoint(screen);
   const std::string item = longitudeOf(texts) + " " + latitudeOf(texts);
-  if (!mayEnter(form, texts, item)) return;
+  if (!mayEnter(form, texts, item)) return false;
   const int place = form.pointEditMode == kAddPoint ? pointsListed(screen) : form.selectedPointIdx;
   screen.insertItem(kList, place, item);
   countDown(screen);
   clearCoordinates(form, {});
   screen.setEnabled("Button_View", true);
   screen.setEnabled("Button_ClearAll_Coordinates", true);
+  return true;
 }
 
 template <PointEditMode mode>
 void enterPointAs(NoticeForm& form, std::string_view /*button*/) {
   form.pointEditMode = mode;
-  enterPoint(form);
+  const bool isEntered = enterPoint(form);
   form.pointEditMode = kAddPoint;
+  // The next point is typed at once.
+  if (isEntered && mode == kAddPoint) form.screen.setFocus(kPointBoxes[0].name);
 }
 
 void pickPoint(NoticeForm& form, std::string_view control) {

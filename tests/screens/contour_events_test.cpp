@@ -60,6 +60,58 @@ class Contour : public testing::Test {
   std::vector<NtcRec> viewed;
 };
 
+// A field of its own takes each of these.
+TEST_F(Contour, a_point_whose_parts_have_not_their_width_is_refused_and_nothing_is_lost) {
+  struct Wrong {
+    std::size_t box;
+    const char* value;
+    const char* told;
+  };
+  const Wrong wrongs[] = {
+      {1, "007", "Coordinates out of boundary\r\nt_long : 00200710E t_lat : 470530N"},
+      {1, "-5", "Coordinates out of boundary\r\nt_long : 002-510E t_lat : 470530N"},
+      {0, "0002", "Coordinates out of boundary\r\nt_long : 00022410E t_lat : 470530N"},
+      {0, "+02", "Coordinates out of boundary\r\nt_long : +022410E t_lat : 470530N"},
+      {4, "45.5", "Coordinates out of boundary\r\nt_long : 0022410E t_lat : 45.50530N"},
+      {4, "5.", "Coordinates out of boundary\r\nt_long : 0022410E t_lat : 5.0530N"},
+      {4, "-5", "Coordinates out of boundary\r\nt_long : 0022410E t_lat : -50530N"},
+      {4, "+5", "Coordinates out of boundary\r\nt_long : 0022410E t_lat : +50530N"},
+      {5, "005", "Coordinates out of boundary\r\nt_long : 0022410E t_lat : 4700530N"},
+      {6, " 3", "Coordinates out of boundary\r\nt_long : 0022410E t_lat : 4705 3N"},
+  };
+  for (const bool hasMap : {true, false}) {
+    if (!hasMap) desk.map = {};
+    for (const Wrong& wrong : wrongs) {
+      SCOPED_TRACE(wrong.value);
+      desk.type("Txt_LMZ04_nb_test_pts", "3");
+      Texts point = {"2", "24", "10", "E", "47", "5", "30", "N"};
+      point[wrong.box] = wrong.value;
+      typePoint(point);
+      EXPECT_TRUE(leave(kBoxes[wrong.box]));
+      EXPECT_TRUE(desk.script.boxes.empty());
+      for (const char* button : {"Button_Add_Coordinates", "Button_Ins_Coordinates"}) {
+        desk.click(button);
+        expectBox(wrong.told);
+        EXPECT_EQ(list, Texts{});
+        EXPECT_EQ(screen.text(kBoxes[wrong.box]), wrong.value);
+      }
+    }
+  }
+}
+
+TEST_F(Contour, after_an_added_point_the_next_one_is_typed_at_once) {
+  desk.type("Txt_LMZ04_nb_test_pts", "3");
+  addPoint("2");
+  EXPECT_EQ(desk.focus, Texts{"Txt_LMZ04_Deg_Long"});
+  addPoint("2");
+  expectBox("This test points is already in the list");
+  EXPECT_EQ(desk.focus, Texts{"Txt_LMZ04_Deg_Long"});
+  desk.choose("ListBox_LMZ04_Coordinates", list.at(0));
+  desk.click("Button_Upd_Coordinates");
+  EXPECT_EQ(desk.focus, Texts{"Txt_LMZ04_Deg_Long"});
+  EXPECT_EQ(list, Texts{"0022410E 470530N"});
+}
+
 TEST_F(Contour, the_form_opens_locked_with_nothing_to_press) {
   for (const char* button :
        {"Button_View", "Button_Del_Coordinates", "Button_Upd_Coordinates", "Button_Ins_Coordinates",
@@ -99,6 +151,7 @@ TEST_F(Contour, an_empty_count_locks_on_leaving_and_not_while_it_is_typed) {
   EXPECT_EQ(list.size(), 3U);
   EXPECT_EQ(screen.text("Txt_CountDownTP"), "2");
   desk.type("Txt_LMZ04_nb_test_pts", "");
+  desk.focus.clear();
   EXPECT_TRUE(leave("Txt_LMZ04_nb_test_pts"));
   EXPECT_TRUE(list.empty());
   EXPECT_EQ(screen.text("Txt_CountDownTP"), "0");

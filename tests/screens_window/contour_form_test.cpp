@@ -34,6 +34,10 @@ class ContourWindow : public RealForm {
     for (const std::string& name : kPoint) all.push_back(hand.text(name));
     return all;
   }
+  static void tabTo(Operator& hand, const std::string& name) {
+    for (int i = 0; i < 20 && hand.focused() != name; ++i) hand.tab();
+    EXPECT_EQ(hand.focused(), name);
+  }
   static void expectUsable(const Operator& hand, const Texts& buttons, bool usable) {
     for (const std::string& name : buttons) EXPECT_EQ(hand.canUse(name), usable) << name;
   }
@@ -77,6 +81,32 @@ TEST_F(ContourWindow, a_fourth_point_of_three_is_refused_and_the_boxes_are_empti
     EXPECT_THAT(hand.items(kList), ElementsAre(kStored[0], kStored[1], kStored[2], kFourthItem));
     EXPECT_EQ(hand.text("Txt_CountDownTP"), "0");
     EXPECT_EQ(pointBoxes(hand), kBlank);
+    expectTold({});
+  });
+}
+
+TEST_F(ContourWindow, points_are_added_one_after_the_other_without_a_way_back) {
+  onTriangle([this](Operator& hand) {
+    hand.enter(kCount, "6");
+    const auto typeOn = [&hand](const Texts& point) {
+      for (const std::string& value : point) {
+        hand.typeHere(value);
+        hand.tab();
+      }
+    };
+    typeOn(kFourth);
+    hand.click("Button_Add_Coordinates");
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long");
+    typeOn({"4", "0", "0", "E", "46", "0", "0", "N"});
+    tabTo(hand, "Button_Add_Coordinates");
+    hand.press(Qt::Key_Space);
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long");
+    typeOn({"5", "0", "0", "E", "46", "0", "0", "N"});
+    tabTo(hand, "Button_Add_Coordinates");
+    hand.press(Qt::Key_Return);
+    EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long");
+    EXPECT_EQ(hand.items(kList).size(), 6U);
+    EXPECT_EQ(hand.text("Txt_CountDownTP"), "0");
     expectTold({});
   });
 }
