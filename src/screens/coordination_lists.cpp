@@ -20,7 +20,9 @@ void addPicked(NoticeForm& form, std::string_view /*control*/) {
   Screen& screen = form.screen;
   const std::vector<std::string>& selected = screen.items("ListAdmSel");
   if (std::find(selected.begin(), selected.end(), form.pickedAdm) == selected.end()) {
+    const int chosen = screen.at("ListAdmSel").index;
     screen.addItem("ListAdmSel", form.pickedAdm);
+    screen.choose("ListAdmSel", chosen);
     screen.setEnabled("Button_Coord_Clear", true);
   }
   screen.setEnabled("Button_Coord_Add", false);
@@ -30,6 +32,8 @@ void addPicked(NoticeForm& form, std::string_view /*control*/) {
 void addAll(NoticeForm& form, std::string_view /*control*/) {
   form.screen.setItems("ListAdmSel", form.screen.items("ListAdmAvail"));
   form.screen.setEnabled("Button_Coord_Clear", true);
+  // None of the rows is chosen.
+  form.screen.setEnabled("Button_Coord_Del", false);
 }
 
 void pickSelected(NoticeForm& form, std::string_view list) {
@@ -47,7 +51,10 @@ void disableRemoval(Screen& screen) {
 void removeSelected(NoticeForm& form, std::string_view /*control*/) {
   Screen& screen = form.screen;
   screen.removeItem("ListAdmSel", form.selectedAdmIdx);
-  if (screen.items("ListAdmSel").empty()) disableRemoval(screen);
+  const int left = static_cast<int>(screen.items("ListAdmSel").size());
+  if (left == 0) disableRemoval(screen);
+  // The row that has taken its place is the next to go, or the last one.
+  screen.choose("ListAdmSel", std::min(form.selectedAdmIdx, left - 1));
   screen.setFocus("ListAdmSel");
 }
 

@@ -162,6 +162,8 @@ void NoticeWindow::makeWidgets() {
     QWidget* const made = makeWidget(control);
     made->setParent(this);
     widgets_.emplace(control.name, made);
+    if (control.kind == ControlKind::option)
+      options_[control.optionGroup].push_back(static_cast<QRadioButton*>(made));
     connectControl(control, *made);
     made->installEventFilter(this);
     auto* const combo = qobject_cast<QComboBox*>(made);
@@ -416,10 +418,20 @@ void NoticeWindow::connectScreen() {
     const bool canStay = control.enabled && control.visible;
     if (!canStay && shown->hasFocus() && control.kind == ControlKind::button) focusPreviousChild();
     showControl(control, *shown);
+    if (control.kind == ControlKind::option) settleTabStop(control.optionGroup);
   };
   screen.titleChanged = [this](const std::string& title) { setWindowTitle(fromText(title)); };
   screen.focusWanted = [this](const std::string& name) { focus(name); };
   form_.close = [this] { reject(); };
+}
+
+// The Tab key finds a group of options at the one that is set, and at any if none is.
+void NoticeWindow::settleTabStop(const std::string& group) {
+  const auto& options = options_[group];
+  const bool isAnySet = std::any_of(options.begin(), options.end(),
+                                    [](const QRadioButton* option) { return option->isChecked(); });
+  for (QRadioButton* const option : options)
+    option->setFocusPolicy(isAnySet && !option->isChecked() ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
 void NoticeWindow::focus(const std::string& name) {

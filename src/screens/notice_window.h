@@ -14,6 +14,7 @@
 
 class QBoxLayout;
 class QGridLayout;
+class QRadioButton;
 class QScrollArea;
 class QTabWidget;
 
@@ -60,6 +61,7 @@ class NoticeWindow final : public QDialog {
   void pick(const std::string& name, int index);
   void press(const std::string& name);
   void connectScreen();
+  void settleTabStop(const std::string& group);
   void focus(const std::string& name);
   void focusNow(QWidget& wanted);
   void bringToView(QWidget& part);
@@ -75,6 +77,7 @@ class NoticeWindow final : public QDialog {
   LeaveRule mayLeave_;
   FormLayout layout_;
   std::map<std::string, QWidget*, std::less<>> widgets_;
+  std::map<std::string, std::vector<QRadioButton*>, std::less<>> options_;  // by group
   std::map<std::string, Box, std::less<>> boxes_;
   QTabWidget* tabs_ = nullptr;
   std::vector<QScrollArea*> pages_;

@@ -132,8 +132,50 @@ TEST_P(CoordinationLists, the_remembered_place_is_removed_again) {
   at.click("Button_Coord_Del");
   at.click("Button_Coord_Del");
   EXPECT_THAT(selected(), ElementsAre("F"));
+  // The last row has taken its place.
+  EXPECT_EQ(at.screen.at("ListAdmSel").index, 0);
   at.click("Button_Coord_Del");
-  EXPECT_THAT(selected(), ElementsAre("F")) << "no such place is left";
+  EXPECT_THAT(selected(), IsEmpty());
+  EXPECT_FALSE(isEnabled("Button_Coord_Del"));
+}
+
+TEST_P(CoordinationLists, the_row_that_takes_the_place_of_a_removed_one_is_chosen) {
+  for (const char* adm : {"F", "BEL", "D"}) add(adm);
+  pick("ListAdmSel", "F");
+  at.click("Button_Coord_Del");
+  EXPECT_EQ(at.screen.at("ListAdmSel").index, 0);
+  EXPECT_TRUE(isEnabled("Button_Coord_Del"));
+  pick("ListAdmSel", "D");
+  at.click("Button_Coord_Del");
+  EXPECT_THAT(selected(), ElementsAre("BEL"));
+  EXPECT_EQ(at.screen.at("ListAdmSel").index, 0);
+  EXPECT_TRUE(isEnabled("Button_Coord_Del"));
+}
+
+TEST_P(CoordinationLists, the_chosen_row_stays_chosen_when_another_is_added) {
+  add("F");
+  EXPECT_EQ(at.screen.at("ListAdmSel").index, -1);
+  EXPECT_FALSE(isEnabled("Button_Coord_Del"));
+  pick("ListAdmSel", "F");
+  add("BEL");
+  EXPECT_EQ(at.screen.at("ListAdmSel").index, 0);
+  EXPECT_TRUE(isEnabled("Button_Coord_Del"));
+  EXPECT_EQ(at.screen.items("ListAdmAvail").at(static_cast<std::size_t>(at.screen.at("ListAdmAvail").index)),
+            "BEL");
+  at.click("Button_Coord_Del");
+  EXPECT_THAT(selected(), ElementsAre("BEL"));
+}
+
+TEST_P(CoordinationLists, of_all_rows_none_is_chosen_and_none_can_be_removed) {
+  add("F");
+  pick("ListAdmSel", "F");
+  at.click("Button_Coord_AddALL");
+  EXPECT_EQ(at.screen.at("ListAdmSel").index, -1);
+  EXPECT_FALSE(isEnabled("Button_Coord_Del"));
+  EXPECT_TRUE(isEnabled("Button_Coord_Clear"));
+  pick("ListAdmSel", "BEL");
+  at.click("Button_Coord_Del");
+  EXPECT_EQ(selected().size(), 121U);
 }
 
 TEST_P(CoordinationLists, nothing_can_be_removed_from_an_empty_list) {

@@ -178,6 +178,46 @@ TEST_F(TelevisionAssignment, an_option_that_is_clicked_is_set_and_the_other_unse
   EXPECT_EQ(raised.size(), 2U);
 }
 
+TEST_F(TelevisionAssignment, the_tab_key_finds_a_group_of_options_at_the_one_that_is_set) {
+  form.screen.setOption("OptInt_Mod");
+  form.screen.setOption("Opt_Art5");
+  show();
+  const auto step = [this](const char* from, Qt::Key key) {
+    control(from).setFocus();
+    QTest::keyClick(&control(from), key);
+    return focused();
+  };
+  EXPECT_EQ(step("Txt_EmailAddr", Qt::Key_Tab), "OptInt_Mod");
+  EXPECT_EQ(step("OptInt_Mod", Qt::Key_Tab), "Opt_Art5");
+  EXPECT_EQ(step("Opt_Art5", Qt::Key_Backtab), "OptInt_Mod");
+  EXPECT_EQ(step("OptInt_Mod", Qt::Key_Backtab), "Txt_EmailAddr");
+  // The program sets another one, as for the next notice.
+  form.screen.setOption("OptInt_Add");
+  form.screen.setOption("Opt_Art4");
+  EXPECT_EQ(step("Txt_EmailAddr", Qt::Key_Tab), "OptInt_Add");
+  EXPECT_EQ(step("OptInt_Add", Qt::Key_Tab), "Opt_Art4");
+  // The user does, with the mouse and with a key.
+  QTest::mouseClick(&option("OptInt_Mod"), Qt::LeftButton, {}, QPoint(8, option("OptInt_Mod").height() / 2));
+  EXPECT_TRUE(form.screen.isSet("OptInt_Mod"));
+  EXPECT_EQ(step("Txt_EmailAddr", Qt::Key_Tab), "OptInt_Mod");
+  QTest::keyClick(&option("OptInt_Mod"), Qt::Key_Up);
+  EXPECT_TRUE(form.screen.isSet("OptInt_Add"));
+  EXPECT_EQ(step("Txt_EmailAddr", Qt::Key_Tab), "OptInt_Add");
+}
+
+TEST_F(TelevisionAssignment, the_tab_key_finds_a_group_of_options_of_which_none_is_set) {
+  form.screen.setOption("OptInt_Mod");
+  form.screen.setOption("Opt_Art5");
+  show();
+  form.screen.unsetOption("Opt_Art5");
+  box("Txt_EmailAddr").setFocus();
+  QTest::keyClick(&box("Txt_EmailAddr"), Qt::Key_Tab);
+  QTest::keyClick(&option("OptInt_Mod"), Qt::Key_Tab);
+  EXPECT_EQ(focused(), "Opt_Art4");
+  QTest::keyClick(&option("Opt_Art4"), Qt::Key_Space);
+  EXPECT_TRUE(form.screen.isSet("Opt_Art4"));
+}
+
 TEST_F(TelevisionAssignment, a_button_raises_its_click_and_a_disabled_one_none) {
   show();
   QTest::mouseClick(&button("Button_Validate"), Qt::LeftButton);
