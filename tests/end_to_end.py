@@ -162,10 +162,21 @@ class Desk:
     def picture(self, name):
         if self.pictures is None:
             return
-        time.sleep(0.5)  # for the eye alone: all is painted
+        self.wait_until_still()
         few_colours = ["+dither", "-colors", "64"]
         subprocess.run(["import", "-window", self.active(), *few_colours, f"PNG8:{self.pictures}/{name}.png"],
                        env=self.environment, check=True)
+
+    def wait_until_still(self):
+        """All is painted when two pictures in a row are alike."""
+        seen = [None]
+
+        def is_still():
+            before, seen[0] = seen[0], subprocess.run(
+                ["import", "-silent", "-window", "root", "-depth", "8", "rgb:-"], env=self.environment,
+                check=True, capture_output=True).stdout
+            return before == seen[0]
+        self.wait(is_still, "an end of the painting")
 
     def picture_of_all(self, path):
         if shutil.which("import") is not None:
