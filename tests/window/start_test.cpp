@@ -102,6 +102,8 @@ void expectReadable(QLabel& hint) {
 
 TEST_F(Window, the_first_hint_can_be_read_on_light_and_dark_desktops) {
   start();
+  // The toolkit hands a new palette on with its events.
+  QCoreApplication::processEvents();
   QLabel* hint = nullptr;
   for (QLabel* const label : window.findChildren<QLabel*>()) {
     if (label->text() == "To check a notice file, choose File > OpenTxt.") hint = label;
