@@ -18,6 +18,29 @@ constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 const Message kLineTooLong("box, number 7: a line of a notice file is too long; its number",
                            "Out of memory: line %1 is longer than 1 MB");
 
+// Both of these are simple enough for the compiler to look at sixteen bytes at once.
+
+// Whether a CR has another byte than LF behind it.
+bool holdsLoneReturn(std::string_view text) {
+  unsigned char lone = 0;
+  for (std::size_t i = 1; i < text.size(); ++i) {
+    const bool isLone = (text[i - 1] == '\r') & (text[i] != '\n');
+    lone = static_cast<unsigned char>(lone | static_cast<unsigned char>(isLone));
+  }
+  return lone != 0;
+}
+
+std::int64_t lineFeedsIn(std::string_view text) {
+  constexpr std::size_t kMostInAByte = 255;
+  std::int64_t all = 0;
+  for (std::size_t at = 0; at < text.size(); at += kMostInAByte) {
+    unsigned char some = 0;
+    for (const char c : text.substr(at, kMostInAByte)) some = static_cast<unsigned char>(some + (c == '\n'));
+    all += some;
+  }
+  return all;
+}
+
 }  // namespace
 
 LineSource::LineSource(const std::string& path)
@@ -35,8 +58,7 @@ LineSource LineSource::ofText(std::string_view text) {
   return source;
 }
 
-std::string_view LineSource::nextLine() {
-  ++lineNo_;
+std::string_view LineSource::nextLineOfAnyKind() {
   if (atEnd()) {
     exhausted_ = true;
     return {};
@@ -55,21 +77,31 @@ std::string_view LineSource::nextLine() {
     if (after < end_ || wholeFileRead_) break;
     fill();
   }
-  const std::string_view line = trimText({buffer_.data() + next_, stop - next_});
-  next_ = after;
-  return utf8_ ? inCodePage(line) : line;
+  return given(next_, stop, after);
 }
 
-std::size_t LineSource::find(char byte, std::size_t from) const {
-  const void* found = std::memchr(buffer_.data() + from, byte, end_ - from);
-  return found == nullptr ? end_ : static_cast<std::size_t>(static_cast<const char*>(found) - buffer_.data());
+std::string_view LineSource::nextTagLine() {
+  std::string_view line;
+  do {
+    passLinesWithoutTag();
+    line = nextLine();
+  } while (!isTagLine(line) && !atEnd());
+  return line;
+}
+
+void LineSource::passLinesWithoutTag() {
+  // Where there can be lines of another kind or too long ones, each is looked at.
+  if (hasLoneReturn_ || buffer_.size() > kLongestLine || atEnd()) return;
+  // The last byte is none that a line may end at: what is behind it isn't known.
+  const std::string_view text(buffer_.data() + next_, end_ - next_ - 1);
+  const std::size_t lines = text.rfind('\n', text.find('<')) + 1;
+  lineNo_ += lineFeedsIn(text.substr(0, lines));
+  next_ += lines;
 }
 
 void LineSource::fill() {
   if (next_ > 0) {
     std::memmove(buffer_.data(), buffer_.data() + next_, end_ - next_);
-    lineFeed_ -= next_;
-    carriageReturn_ -= next_;
     end_ -= next_;
     next_ = 0;
   }
@@ -80,11 +112,11 @@ void LineSource::fill() {
 }
 
 void LineSource::takeIn(std::size_t count) {
-  const std::size_t first = end_;
+  tabsToBlanks(buffer_.data() + end_, buffer_.data() + end_ + count);
   end_ += count;
-  tabsToBlanks(buffer_.data() + first, buffer_.data() + end_);
-  if (lineFeed_ == first) lineFeed_ = find('\n', first);
-  if (carriageReturn_ == first) carriageReturn_ = find('\r', first);
+  lineFeed_ = find('\n', next_);
+  carriageReturn_ = find('\r', next_);
+  hasLoneReturn_ = holdsLoneReturn({buffer_.data() + next_, end_ - next_});
 }
 
 void LineSource::skipUtf8Mark() {

@@ -3,11 +3,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/open_file.h"
+#include "platform/text.h"
 
 namespace zamo {
 
@@ -29,16 +31,39 @@ class LineSource {
   bool atEnd() const { return next_ == end_; }
   // True once nextLine was called at the end.
   bool exhausted() const { return exhausted_; }
-  // How many times nextLine was called.
+  // How many lines were read, those asked for at the end among them.
   std::int64_t lineNo() const { return lineNo_; }
 
   // The next line with its tabs turned into blanks and the blanks at both ends taken off; an empty text at
   // the end. Valid until the next call.
-  std::string_view nextLine();
+  std::string_view nextLine() {
+    ++lineNo_;
+    const std::size_t lineFeed = hasLoneReturn_ ? end_ : find('\n', next_);
+    // A byte behind the line end is wanted too: it tells whether this was the last line.
+    const bool isWhole = lineFeed + 1 < end_ && lineFeed - next_ <= kLongestLine;
+    return isWhole ? given(next_, lineFeed - (lineFeed > next_ && buffer_[lineFeed - 1] == '\r' ? 1 : 0),
+                           lineFeed + 1)
+                   : nextLineOfAnyKind();
+  }
+  // The next line that begins with "<", or the last line there is; those before it count as read.
+  std::string_view nextTagLine();
 
  private:
   LineSource() = default;
-  std::size_t find(char byte, std::size_t from) const;
+  std::size_t find(char byte, std::size_t from) const {
+    const char* const text = buffer_.data();
+    const void* found = std::memchr(text + from, byte, end_ - from);
+    return found == nullptr ? end_ : static_cast<std::size_t>(static_cast<const char*>(found) - text);
+  }
+  // The line between two places; the next one begins at `after`.
+  std::string_view given(std::size_t first, std::size_t stop, std::size_t after) {
+    next_ = after;
+    const std::string_view line = trimText({buffer_.data() + first, stop - first});
+    return utf8_ ? inCodePage(line) : line;
+  }
+  std::string_view nextLineOfAnyKind();
+  // Passes over lines that are in memory as a whole and hold no "<".
+  void passLinesWithoutTag();
   void fill();
   void takeIn(std::size_t count);
   void skipUtf8Mark();
@@ -46,10 +71,12 @@ class LineSource {
 
   std::optional<OpenFile> file_;  // none for lines from memory
   std::string buffer_;
-  std::size_t next_ = 0;      // the first byte not yet given
-  std::size_t end_ = 0;       // behind the last byte read
-  std::size_t lineFeed_ = 0;  // the first LF and CR from next_ on, or end_
+  std::size_t next_ = 0;  // the first byte not yet given
+  std::size_t end_ = 0;   // behind the last byte read
+  // The first LF and CR from next_ on, or end_; stale when they lie before it.
+  std::size_t lineFeed_ = 0;
   std::size_t carriageReturn_ = 0;
+  bool hasLoneReturn_ = false;  // a CR without LF from next_ on; one that is the last byte isn't known yet
   bool wholeFileRead_ = false;
   bool utf8_ = false;
   bool exhausted_ = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 
 #include "platform/numbers.h"
@@ -46,8 +47,32 @@ bool isTagOf(std::string_view line, TagKind kind) {
   return tag != nullptr && tag->kind == kind;
 }
 
+// Whether a text is ASCII without an upper case letter, eight characters at a time.
+bool isPlainLowerCase(std::string_view text) {
+  constexpr std::uint64_t ones = 0x0101010101010101;
+  constexpr std::uint64_t tops = 0x80 * ones;
+  const auto isPlain = [](std::uint64_t eight) {
+    const std::uint64_t fromA = eight + (0x80 - 'A') * ones;
+    const std::uint64_t behindZ = eight + (0x80 - 'Z' - 1) * ones;
+    return ((eight | (fromA & ~behindZ)) & tops) == 0;
+  };
+  const auto eightAt = [text](std::size_t at) {
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, text.data() + at, sizeof eight);
+    return eight;
+  };
+  if (text.size() < 8) {
+    return std::none_of(text.begin(), text.end(), [](char c) { return c < 0 || (c >= 'A' && c <= 'Z'); });
+  }
+  for (std::size_t at = 0; at + 8 <= text.size(); at += 8) {
+    if (!isPlain(eightAt(at))) return false;
+  }
+  return isPlain(eightAt(text.size() - 8));
+}
+
 bool inLowerCase(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return lowerChar(c) == c; });
+  return isPlainLowerCase(text) ||
+         std::all_of(text.begin(), text.end(), [](char c) { return lowerChar(c) == c; });
 }
 
 }  // namespace

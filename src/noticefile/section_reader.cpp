@@ -285,7 +285,10 @@ std::string readAzimuths(SectionReading& reading, AzimuthValues& values, std::st
     } else if (!value.empty() && !overwrites && !values[index].value.empty()) {
       messages += duplicateKey(reading);
     } else if (!value.empty()) {
-      values[index++] = {true, std::string(azimuth), std::string(value)};
+      AzmValueRec& place = values[index++];
+      place.present = true;
+      place.azm = azimuth;
+      place.value = value;
     }
   });
   return messages;

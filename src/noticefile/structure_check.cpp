@@ -37,7 +37,7 @@ bool checkSection(LineSource& lines, std::string& errText, std::string_view tag,
       errText.append(kEndTagNotFound.filled({section.endTag, std::to_string(section.startLine)}));
       return false;
     }
-    const std::string_view line = lines.nextLine();
+    const std::string_view line = lines.nextTagLine();
     if (!isTagLine(line)) continue;
     if (equalsIgnoringCase(line, section.endTag)) {
       open.pop_back();
@@ -73,7 +73,7 @@ bool checkStructureOfLines(LineSource& lines, std::string& errText, std::string_
   bool tailSeen = false;
   std::int64_t notices = 0;
   std::string tag;
-  std::string_view line = lines.nextLine();
+  std::string_view line = lines.nextTagLine();
   while (!lines.atEnd()) {
     if (isTopTag(line)) {
       tag = upperText(line);
@@ -91,7 +91,7 @@ bool checkStructureOfLines(LineSource& lines, std::string& errText, std::string_
         *only = true;
       }
     }
-    line = lines.nextLine();
+    line = lines.nextTagLine();
   }
   errText = kNoticeCount.filled({std::to_string(notices)});
   if (!headSeen) return errText.append(kNoHead.filled({fileName})), false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 #include <system_error>
 
@@ -58,6 +59,52 @@ bool isBeyondOne(std::string_view number) {
   return place + valueOf(exponentText.substr(0, kLongestExponent)) > 0;
 }
 
+// So many digits make a number below 2^53, and as many places divide it by a power of ten that is exact: one
+// division then gives the nearest double.
+constexpr std::size_t kExactDigits = 15;
+constexpr auto kPowersOfTen = [] {
+  std::array<double, kExactDigits + 1> powers{};
+  double power = 1;
+  for (double& one : powers) {
+    one = power;
+    power *= 10;
+  }
+  return powers;
+}();
+
+// A text that is nothing but digits, with a sign and a point at most, as nearly all numbers are.
+struct PlainNumber {
+  bool isOne = false;
+  bool isNegative = false;
+  std::int64_t digits = 0;
+  std::size_t places = 0;  // behind the point
+
+  double value() const {
+    const double whole = static_cast<double>(digits) / kPowersOfTen[places];
+    return isNegative ? -whole : whole;
+  }
+};
+
+inline PlainNumber plainNumber(std::string_view text) {
+  PlainNumber number;
+  if (text.size() > kExactDigits) return number;
+  number.isNegative = text.starts_with('-');
+  if (number.isNegative || text.starts_with('+')) text.remove_prefix(1);
+  std::size_t points = 0;
+  for (const char c : text) {
+    if (isDigit(c)) {
+      number.digits = 10 * number.digits + (c - '0');
+      number.places += points;
+    } else if (c == '.') {
+      ++points;
+    } else {
+      return number;
+    }
+  }
+  number.isOne = points <= 1 && text.size() > points;
+  return number;
+}
+
 double valueOf(std::string_view number) {
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
@@ -72,10 +119,12 @@ double valueOf(std::string_view number) {
 
 bool isNumericText(std::string_view text) {
   text = trimText(text);
-  return !text.empty() && numberLength(text) == text.size();
+  return plainNumber(text).isOne || (!text.empty() && numberLength(text) == text.size());
 }
 
 double leadingNumber(std::string_view text) {
+  const PlainNumber plain = plainNumber(text);
+  if (plain.isOne) return plain.value();
   const auto isGap = [](char c) { return c == ' ' || c == '\t'; };
   if (std::none_of(text.begin(), text.end(), isGap)) return valueOf(text.substr(0, numberLength(text)));
   std::string closed;

@@ -31,9 +31,8 @@ std::string upperText(std::string_view text) {
   return result;
 }
 
-bool equalsIgnoringCase(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                            [](char x, char y) { return lowerChar(x) == lowerChar(y); });
+bool equalIgnoringCase(const char* a, const char* b, std::size_t size) {
+  return std::equal(a, a + size, b, [](char x, char y) { return lowerChar(x) == lowerChar(y); });
 }
 
 std::string_view characters(std::string_view text, std::size_t first, std::size_t last) {

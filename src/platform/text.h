@@ -53,7 +53,11 @@ inline std::string_view trimText(std::string_view text) {
   return text;
 }
 
-bool equalsIgnoringCase(std::string_view a, std::string_view b);
+bool equalIgnoringCase(const char* a, const char* b, std::size_t size);
+
+inline bool equalsIgnoringCase(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && equalIgnoringCase(a.data(), b.data(), a.size());
+}
 
 // Characters `first` to `last`, counted from 1 and both included; what lies beyond the text is left out.
 std::string_view characters(std::string_view text, std::size_t first, std::size_t last);

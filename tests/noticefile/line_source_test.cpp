@@ -6,7 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -171,6 +173,90 @@ TEST(LineSource, empty_lines_may_straddle_the_blocks_that_are_read) {
   EXPECT_EQ(lines.size(), 3 * kBlock);
 }
 
+// What the lines of a text are, in the simplest way to tell.
+Lines simplyCut(std::string_view text) {
+  Lines lines;
+  std::string line;
+  const auto end = [&] {
+    const std::size_t first = line.find_first_not_of(' ');
+    const std::size_t last = line.find_last_not_of(' ');
+    lines.push_back(first == std::string::npos ? "" : line.substr(first, last - first + 1));
+    line.clear();
+  };
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+    if (text[i] == '\r' || text[i] == '\n') {
+      end();
+    } else {
+      line += text[i] == '\t' ? ' ' : text[i];
+    }
+  }
+  if (!text.empty() && text.back() != '\r' && text.back() != '\n') end();
+  return lines;
+}
+
+struct NumberedLine {
+  std::int64_t number = 0;
+  std::string text;
+  bool operator==(const NumberedLine&) const = default;
+};
+
+// The tag lines, and the last line if it is none.
+std::vector<NumberedLine> tagLinesOf(LineSource lines) {
+  std::vector<NumberedLine> all;
+  while (!lines.atEnd()) {
+    const std::string line(lines.nextTagLine());
+    all.push_back({lines.lineNo(), line});
+  }
+  return all;
+}
+
+// Files of about two blocks. In some all line ends are of one kind, as in nearly all files there are.
+std::string randomText(std::mt19937& random) {
+  const auto below = [&random](std::size_t bound) {
+    return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random);
+  };
+  constexpr std::array<std::string_view, 4> ends = {"\r\n", "\n", "\r", "\n\r"};
+  constexpr std::array<std::string_view, 6> lines = {"t_attn@azm010 = 43", "<POINT>", "",
+                                                     "  a <b>\t",          "\t <x>",  " "};
+  const std::size_t kinds = 1 + below(ends.size());
+  const std::size_t size = 2 * kBlock - 200 + below(400);
+  std::string text;
+  while (text.size() < size) text.append(lines[below(lines.size())]).append(ends[below(kinds)]);
+  if (below(2) == 0) text += "last";
+  return text;
+}
+
+TEST(LineSource, gives_the_lines_of_any_text_at_any_place_of_the_blocks) {
+  const TempFolder folder;
+  std::mt19937 random(7);
+  for (int round = 0; round < 40; ++round) {
+    const std::string text = randomText(random);
+    const Lines expected = simplyCut(text);
+    const std::string path = folder.write("a.txt", text);
+    ASSERT_TRUE(linesOf(LineSource(path)) == expected) << round;
+    ASSERT_TRUE(linesOf(LineSource::ofText(text)) == expected) << round;
+    std::vector<NumberedLine> tags;
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+      const bool isWanted = expected[i].starts_with('<') || i + 1 == expected.size();
+      if (isWanted) tags.push_back({static_cast<std::int64_t>(i + 1), expected[i]});
+    }
+    ASSERT_TRUE(tagLinesOf(LineSource(path)) == tags) << round;
+    ASSERT_TRUE(tagLinesOf(LineSource::ofText(text)) == tags) << round;
+  }
+}
+
+TEST(LineSource, tag_lines_at_the_end_are_empty_texts_and_count) {
+  LineSource lines = LineSource::ofText("a\r\n<b>\r\nc");
+  EXPECT_EQ(lines.nextTagLine(), "<b>");
+  EXPECT_EQ(lines.lineNo(), 2);
+  EXPECT_EQ(lines.nextTagLine(), "c");
+  EXPECT_FALSE(lines.exhausted());
+  EXPECT_EQ(lines.nextTagLine(), "");
+  EXPECT_TRUE(lines.exhausted());
+  EXPECT_EQ(lines.lineNo(), 4);
+}
+
 TEST(LineSource, a_byte_order_mark_is_dropped) {
   EXPECT_EQ(linesOfText("\xEF\xBB\xBF<HEAD>\r\nb\r\n"), (Lines{"<HEAD>", "b"}));
   EXPECT_EQ(linesOfText("\xEF\xBB\xBF"), (Lines{}));
@@ -273,6 +359,7 @@ TEST(LineSource, a_longer_line_is_error_7_with_its_number) {
   for (const char* end : {"\r\n", "\n", "\r", ""}) {
     const std::string text = "a\r\n\r\n" + std::string(kMegabyte + 1, 'x') + end;
     const RunTimeError error = errorOf(folder.write("a.txt", text));
+    EXPECT_THROW(tagLinesOf(LineSource(folder.file("a.txt"))), RunTimeError);
     EXPECT_EQ(error.number, 7);
     EXPECT_EQ(error.text, "Out of memory: line 3 is longer than 1 MB");
     LineSource lines = LineSource::ofText(text);

@@ -49,6 +49,30 @@ TEST(KeyLine, a_key_that_begins_with_t_becomes_lower_case_as_a_whole) {
   EXPECT_EQ(split("t_Attn@AZM010 = 1"), (Split{true, "t_attn@azm010", "1"}));
 }
 
+TEST(KeyLine, an_upper_case_letter_is_found_at_any_place_of_a_key_of_any_length) {
+  KeyValue split;
+  for (std::size_t length = 1; length <= 40; ++length) {
+    for (std::size_t at = 1; at < length; ++at) {
+      for (const auto& [upper, lower] :
+           {std::pair('A', 'a'), std::pair('Z', 'z'), std::pair('\311', '\351')}) {
+        std::string key(length, 't');
+        std::string expected = key;
+        key[at] = upper;
+        expected[at] = lower;
+        ASSERT_TRUE(splitKeyValue(key + " = V", split));
+        EXPECT_EQ(split.key, expected);
+      }
+      for (const char other : {'@', '[', '_', '0', '`', '{', '\351', '\240'}) {
+        std::string key(length, 't');
+        key[at] = other;
+        const std::string line = key + "=V";
+        ASSERT_TRUE(splitKeyValue(line, split));
+        EXPECT_EQ(split.key, key);
+      }
+    }
+  }
+}
+
 TEST(KeyLine, any_other_key_stays_as_written) {
   EXPECT_EQ(split("X_ADM = SUI"), (Split{true, "X_ADM", "SUI"}));
   EXPECT_EQ(split("Notice No = 1"), (Split{true, "Notice No", "1"}));

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <random>
+#include <string>
 
 namespace zamo {
 namespace {
@@ -45,6 +47,29 @@ TEST(LeadingNumber, takes_the_longest_head_that_is_a_number) {
   EXPECT_EQ(leadingNumber("1.2.3"), 1.2);
   EXPECT_EQ(leadingNumber("010"), 10.0);
   EXPECT_EQ(leadingNumber("0x10"), 0.0);
+}
+
+TEST(LeadingNumber, is_the_nearest_double_whatever_the_length) {
+  std::mt19937 random(19);
+  const auto below = [&random](int bound) {
+    return std::uniform_int_distribution<int>(0, bound - 1)(random);
+  };
+  for (int round = 0; round < 100'000; ++round) {
+    std::string text;
+    if (below(3) == 0) text += below(2) == 0 ? '-' : '+';
+    const int digits = 1 + below(19);
+    const int pointAt = below(2) == 0 ? below(digits + 1) : -1;
+    for (int i = 0; i < digits; ++i) {
+      if (i == pointAt) text += '.';
+      text += static_cast<char>('0' + below(10));
+    }
+    // What it is behind an exponent of 0 is the library's business.
+    EXPECT_EQ(leadingNumber(text), leadingNumber(text + "e0")) << text;
+    EXPECT_EQ(leadingNumber(text), std::strtod(text.c_str(), nullptr)) << text;
+    EXPECT_TRUE(isNumericText(text)) << text;
+  }
+  EXPECT_TRUE(std::signbit(leadingNumber("-0")));
+  EXPECT_FALSE(std::signbit(leadingNumber("+0")));
 }
 
 TEST(LeadingNumber, is_zero_where_no_number_stands) {
