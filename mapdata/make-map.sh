@@ -19,7 +19,7 @@ if [ "$(cat "$package/borders" 2>/dev/null)" != "$borders" ]; then
   echo "$borders" >"$package/borders"
 fi
 
-made_of=$(cd "$here" && cat package-lock.json ./*.txt ./*.csv ./*.cpp ./*.h ../src/map/*.h "$chart" | sha256sum | cut -d ' ' -f 1)
+made_of=$(cd "$here" && cat package-lock.json ./*.txt ./*.csv ./*.cpp ./*.h ../src/map/map_file.h ../src/map/map_shape.h "$chart" | sha256sum | cut -d ' ' -f 1)
 kept=$store/$made_of.dat
 if [ ! -e "$kept" ]; then
   "$builder" "$geojson" "$chart" "$here" "$kept.part"

@@ -5,8 +5,6 @@
 #include <s2/s2earth.h>
 #include <s2/s2region_coverer.h>
 #include <s2/s2shape_index_region.h>
-#include <s2/s2shapeutil_coding.h>
-#include <s2/s2wrapped_shape.h>
 #include <s2/util/coding/coder.h>
 
 #include <cstdio>
@@ -14,6 +12,7 @@
 #include <stdexcept>
 
 #include "map/map_file.h"
+#include "map/map_shape.h"
 
 namespace zamo::mapdata {
 namespace {
@@ -27,6 +26,20 @@ std::string encoded(const MutableS2ShapeIndex& index) {
   Encoder encoder;
   index.Encode(&encoder);
   return {encoder.base(), encoder.length()};
+}
+
+// The numbers of the cells whose centres the places are; all are of one level, with nothing in the lower
+// bytes.
+std::string numbersOf(const std::vector<S2Point>& places) {
+  std::string bytes;
+  for (const S2Point& place : places) {
+    const S2CellId cell = S2CellId(place).parent(kPlaceLevel);
+    const std::uint64_t upper = cell.id() >> kMapPlaceShift;
+    if ((cell.ToPoint() - place).Norm2() > 0 || upper << kMapPlaceShift != cell.id())
+      throw std::runtime_error("a place that is no centre of a cell: " + placeText(place));
+    bytes.append(reinterpret_cast<const char*>(&upper), kMapPlaceBytes);
+  }
+  return bytes;
 }
 
 MapCap capOf(const S2Cap& cap) {
@@ -64,6 +77,14 @@ MapCountry countryOf(const std::string& code, const Region& region, std::vector<
   country.firstCap = static_cast<std::uint32_t>(caps.size());
   country.caps = static_cast<std::uint32_t>(cells.size());
   for (const S2CellId cell : cells) caps.push_back(capOf(S2Cell(cell).GetCapBound()));
+  std::vector<std::uint32_t> starts = {0};
+  std::string places;
+  for (const auto& loop : region.loops()) {
+    starts.push_back(starts.back() + static_cast<std::uint32_t>(loop.size()));
+    places += numbersOf(loop);
+  }
+  country.loops = content.add(starts.data(), starts.size() * sizeof starts[0]);
+  country.places = content.add(places);
   MutableS2ShapeIndex index;
   index.Add(std::make_unique<S2LaxPolygonShape>(region.loops()));
   country.index = content.add(encoded(index));
@@ -85,10 +106,6 @@ void writeMap(const World& world, const std::string& path) {
     all.Add(std::make_unique<S2LaxPolygonShape>(region.loops()));
     places += region.vertices();
   }
-  Encoder shapes;
-  if (!s2shapeutil::CompactEncodeTaggedShapes(all, &shapes))
-    throw std::runtime_error("can't encode the shapes");
-  header.shapes = content.add(shapes.base(), shapes.length());
   header.index = content.add(encoded(all));
   header.countryTable = content.add(countries.data(), countries.size() * sizeof(MapCountry));
   header.capTable = content.add(caps.data(), caps.size() * sizeof(MapCap));
@@ -108,8 +125,8 @@ void writeMap(const World& world, const std::string& path) {
   file.close();
   if (!file || std::rename(unfinished.c_str(), path.c_str()) != 0)
     throw std::runtime_error("can't write " + path);
-  std::printf("%zu countries, %d places: shapes %zu, index %llu, file %llu bytes\n", countries.size(), places,
-              shapes.length(), static_cast<unsigned long long>(header.index.size),
+  std::printf("%zu countries, %d places: index %llu, file %llu bytes\n", countries.size(), places,
+              static_cast<unsigned long long>(header.index.size),
               static_cast<unsigned long long>(header.fileSize));
 }
 

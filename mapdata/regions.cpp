@@ -19,15 +19,13 @@
 namespace zamo::mapdata {
 namespace {
 
-// About 4 m: far below what the sources know, and a point takes few bytes.
-constexpr int kLevel = 21;
 // Sides longer than this are given places between, as they run straight in degrees.
 constexpr double kLongestSide = 0.1;
 // In the South Pacific, far from any land.
 const S2Point kAtSea = S2LatLng::FromDegrees(-42.0123, -121.0321).ToPoint();
 
 s2builderutil::S2CellIdSnapFunction snapFunction() {
-  return s2builderutil::S2CellIdSnapFunction(kLevel);
+  return s2builderutil::S2CellIdSnapFunction(kPlaceLevel);
 }
 
 Loops loopsOf(const S2LaxPolygonShape& shape) {

@@ -13,6 +13,9 @@
 
 namespace zamo::mapdata {
 
+// About 4 m: far below what the sources know, and a point takes few bytes.
+inline constexpr int kPlaceLevel = 21;
+
 using Loops = std::vector<std::vector<S2Point>>;
 
 // An area with its index. Loops have their inside on the left.

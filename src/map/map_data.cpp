@@ -5,7 +5,10 @@
 #include <s2/s2shapeutil_coding.h>
 #include <s2/util/coding/coder.h>
 
+#include <algorithm>
 #include <cstdint>
+
+#include "platform/run_time_error.h"
 
 namespace zamo {
 namespace {
@@ -25,6 +28,25 @@ template <typename Row>
 std::span<const Row> rowsOf(std::string_view bytes) {
   return {reinterpret_cast<const Row*>(bytes.data()), bytes.size() / sizeof(Row)};
 }
+
+[[noreturn]] void throwDamaged() {
+  throw RunTimeError{kDeviceError, "The data file of the map is damaged"};
+}
+
+// The outlines of all countries, as they lie in the file.
+class Outlines : public S2ShapeIndex::ShapeFactory {
+ public:
+  explicit Outlines(std::vector<Outline> outlines) : outlines_(std::move(outlines)) {}
+
+  int size() const override { return static_cast<int>(outlines_.size()); }
+  std::unique_ptr<S2Shape> operator[](int country) const override {
+    return std::make_unique<MapShape>(outlines_[static_cast<std::size_t>(country)]);
+  }
+  std::unique_ptr<ShapeFactory> Clone() const override { return std::make_unique<Outlines>(outlines_); }
+
+ private:
+  std::vector<Outline> outlines_;
+};
 
 }  // namespace
 
@@ -56,35 +78,51 @@ bool MapData::isWhole() const {
 
 bool MapData::init() {
   std::memcpy(&header_, file_.content().data(), sizeof header_);
-  const auto isInside = [this](const MapSpan& span) {
+  const auto isInside = [this](const MapSpan& span, std::size_t alignment) {
     const std::uint64_t size = header_.fileSize;
-    return span.offset >= sizeof(MapHeader) && span.offset <= size && span.size <= size - span.offset;
+    return span.offset >= sizeof(MapHeader) && span.offset <= size && span.size <= size - span.offset &&
+           span.offset % alignment == 0;
   };
-  if (!isInside(header_.countryTable) || !isInside(header_.capTable) || !isInside(header_.shapes) ||
-      !isInside(header_.index) || header_.countryTable.offset % alignof(MapCountry) != 0 ||
-      header_.capTable.offset % alignof(MapCap) != 0) {
+  if (!isInside(header_.countryTable, alignof(MapCountry)) || !isInside(header_.capTable, alignof(MapCap)) ||
+      !isInside(header_.index, 1)) {
     return false;
   }
   countries_ = rowsOf<MapCountry>(part(header_.countryTable));
   caps_ = rowsOf<MapCap>(part(header_.capTable));
   if (countries_.size() != header_.countries || caps_.size() != header_.caps) return false;
+  const auto isSound = [&](const MapCountry& country) {
+    return isInside(country.loops, alignof(std::uint32_t)) && isInside(country.places, 1) &&
+           isInside(country.index, 1) && country.firstCap <= caps_.size() &&
+           country.caps <= caps_.size() - country.firstCap;
+  };
+  return std::ranges::all_of(countries_, isSound) && initIndex();
+}
+
+bool MapData::initIndex() {
+  std::vector<Outline> outlines;
   for (const MapCountry& country : countries_) {
-    if (!isInside(country.index) || country.firstCap > caps_.size() ||
-        country.caps > caps_.size() - country.firstCap) {
-      return false;
-    }
+    const Outline outline{rowsOf<std::uint32_t>(part(country.loops)), part(country.places)};
+    if (!isSound(outline)) return false;
+    outlines.push_back(outline);
+    edges_.push_back(static_cast<int>(outline.starts.back()));
   }
-  const std::string_view shapes = part(header_.shapes);
   const std::string_view index = part(header_.index);
-  Decoder shapeDecoder(shapes.data(), shapes.size());
-  Decoder indexDecoder(index.data(), index.size());
-  if (!joint_.Init(&indexDecoder, s2shapeutil::LazyDecodeShapeFactory(&shapeDecoder)) ||
-      joint_.num_shape_ids() != static_cast<int>(countries_.size())) {
-    return false;
-  }
+  cells_ = IndexCells::in(index);
+  Decoder decoder(index.data(), index.size());
+  if (!cells_ || !joint_.Init(&decoder, Outlines(std::move(outlines)))) return false;
+  soundCells_.resize(cells_->size());
   containing_.Init(&joint_);
   opened_.resize(countries_.size());
   return true;
+}
+
+void MapData::requireSoundAt(const S2Point& point) const {
+  const std::size_t next = cells_->cellAt(point);
+  for (std::size_t cell = next == 0 ? 0 : next - 1; cell <= next && cell < cells_->size(); ++cell) {
+    if (soundCells_[cell]) continue;
+    if (!cells_->isSound(cell, edges_)) throwDamaged();
+    soundCells_[cell] = true;
+  }
 }
 
 std::span<const MapCap> MapData::caps(std::size_t country) const {
@@ -92,6 +130,7 @@ std::span<const MapCap> MapData::caps(std::size_t country) const {
 }
 
 int MapData::countryAt(const S2Point& point) const {
+  requireSoundAt(point);
   int found = -1;
   containing_.VisitContainingShapes(point, [&](S2Shape* shape) {
     found = shape->id();
@@ -103,12 +142,16 @@ int MapData::countryAt(const S2Point& point) const {
 S2ClosestEdgeQuery& MapData::edgesOf(std::size_t country) const {
   auto& opened = opened_[country];
   if (!opened) {
-    opened = std::make_unique<Country>();
+    auto found = std::make_unique<Country>();
     const std::string_view index = part(countries_[country].index);
+    const auto cells = IndexCells::in(index);
     Decoder decoder(index.data(), index.size());
-    // The file's sums were right, so this is as the builder wrote it.
-    opened->index.Init(&decoder, s2shapeutil::SingletonShapeFactory(decoded(shape(country))));
-    opened->query.Init(&opened->index);
+    if (!cells || !cells->areAllSound(std::span(edges_).subspan(country, 1)) ||
+        !found->index.Init(&decoder, s2shapeutil::SingletonShapeFactory(decoded(shape(country))))) {
+      throwDamaged();
+    }
+    found->query.Init(&found->index);
+    opened = std::move(found);
   }
   return opened->query;
 }

@@ -6,16 +6,21 @@
 #include <s2/s2contains_point_query.h>
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "map/index_cells.h"
 #include "map/map_file.h"
+#include "map/map_shape.h"
 #include "platform/mapped_file.h"
 
 namespace zamo {
 
+// The sums tell that a file is whole, not that it makes sense. What only a forged one can hold is found where
+// it is asked for and thrown as a RunTimeError.
 class MapData {
  public:
   // Nothing if the file isn't whole and ours.
@@ -33,6 +38,7 @@ class MapData {
   // Calls `one` with the number of each country that claims the point.
   template <typename One>
   void forEachAt(const S2Point& point, One one) const {
+    requireSoundAt(point);
     containing_.VisitContainingShapes(point, [&](S2Shape* shape) {
       one(static_cast<std::size_t>(shape->id()));
       return true;
@@ -51,12 +57,17 @@ class MapData {
 
   bool isWhole() const;
   bool init();
+  bool initIndex();
+  void requireSoundAt(const S2Point& point) const;
   std::string_view part(const MapSpan& span) const;
 
   MappedFile file_;
   MapHeader header_;
   std::span<const MapCountry> countries_;
   std::span<const MapCap> caps_;
+  std::vector<int> edges_;  // how many each country has
+  std::optional<IndexCells> cells_;
+  mutable std::vector<bool> soundCells_;  // of those that were asked for
   EncodedS2ShapeIndex joint_;
   mutable S2ContainsPointQuery<EncodedS2ShapeIndex> containing_;
   mutable std::vector<std::unique_ptr<Country>> opened_;

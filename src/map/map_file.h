@@ -1,6 +1,5 @@
-// The layout of the map's data file: a header, a table of countries, the caps that bound them, and the
-// encoded shapes and indexes. Numbers stand as the processor has them, `byteOrder` tells whether that is
-// ours.
+// The layout of the map's data file: a header, a table of countries, the caps that bound them, their outlines
+// and the encoded indexes. Numbers stand as the processor has them, `byteOrder` tells whether that is ours.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +10,7 @@
 namespace zamo {
 
 inline constexpr char kMapMagic[8] = {'G', 'Z', 'M', 'P', '3', '2', 'D', '\n'};
-inline constexpr std::uint32_t kMapVersion = 1;
+inline constexpr std::uint32_t kMapVersion = 2;
 inline constexpr std::uint32_t kMapByteOrder = 0x01020304;
 
 struct MapSpan {
@@ -28,8 +27,7 @@ struct MapHeader {
   std::uint32_t caps = 0;
   MapSpan countryTable;          // MapCountry, in the order of the shapes
   MapSpan capTable;              // MapCap
-  MapSpan shapes;                // one polygon a country
-  MapSpan index;                 // all shapes together
+  MapSpan index;                 // all outlines together
   std::uint64_t contentSum = 0;  // of all behind the header
   std::uint64_t headerSum = 0;   // of all before this field
 };
@@ -45,11 +43,14 @@ struct MapCountry {
   std::uint32_t firstCap = 0;
   std::uint32_t caps = 0;
   std::uint32_t spare = 0;
-  MapCap bound;   // of the whole country
-  MapSpan index;  // of its shape alone
+  MapCap bound;  // of the whole country
+  MapSpan
+      loops;  // 32 bits each: the number of a loop's first place; behind the last, how many places there are
+  MapSpan places;  // see map_shape.h
+  MapSpan index;   // of its outline alone
 };
 
-static_assert(sizeof(MapHeader) == 112 && sizeof(MapCap) == 32 && sizeof(MapCountry) == 64);
+static_assert(sizeof(MapHeader) == 96 && sizeof(MapCap) == 32 && sizeof(MapCountry) == 96);
 
 // A sum that changes with any byte, at the speed at which memory is read.
 inline std::uint64_t mapSum(std::string_view bytes) {
