@@ -4,6 +4,7 @@
 #include "database/key_value.h"
 #include "database/lookups.h"
 #include "database/notice_rows.h"
+#include "model/notice_words.h"
 #include "platform/message.h"
 #include "platform/text.h"
 
@@ -23,7 +24,7 @@ bool refuse(const Host& host, const Message& message) {
 }
 
 bool isAllotmentType(std::string_view type) {
-  return equalsIgnoringCase(type, "GT2") || equalsIgnoringCase(type, "GS2");
+  return isInAnyCase(type, {types::GT2, types::GS2});
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "database/operation.h"
 #include "database/write_notice.h"
 #include "model/adm_numeric_base.h"
+#include "model/notice_words.h"
 #include "model/ntc_reset.h"
 #include "noticefile/lines.h"
 #include "noticefile/section_reader.h"
@@ -97,8 +98,8 @@ struct Loading {
 Duplicate findDuplicate(Loading& loading, std::int32_t& key) {
   const NtcRec& ntc = loading.reading.ntc;
   const std::string& type = ntc.t_notice_type;
-  const bool isAssignment = type == "GT1" || type == "GS1";
-  const bool isAllotment = type == "GT2" || type == "GS2";
+  const bool isAssignment = isExactly(type, {types::GT1, types::GS1});
+  const bool isAllotment = isExactly(type, {types::GT2, types::GS2});
   if (!isAssignment && !isAllotment) return Duplicate::none;
   if (findByAdmRefId(loading.host, ntc.t_adm_ref_id, ntc.t_adm, key, loading.connection))
     return Duplicate::reference;
@@ -156,7 +157,7 @@ void storeNotice(Loading& loading) {
   if (duplicate != Duplicate::none) {
     reportStored(loading, duplicate, std::int64_t{admNumericBase(ntc.t_adm)} + lastKey + 1, foundKey);
   }
-  if (ntc.t_notice_type == "GA1") reportContour(loading, outcome);
+  if (isExactly(ntc.t_notice_type, types::GA1)) reportContour(loading, outcome);
 }
 
 void loadHead(Loading& loading) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "model/notice_words.h"
 #include "platform/coordinates.h"
 #include "platform/numbers.h"
 #include "platform/run_time_error.h"
@@ -143,9 +144,9 @@ static_assert(isSound(kVornaColumns) && isSound(kNtcHistColumns) && isSound(kArt
               isSound(kAllotmentColumns) && isSound(kContourColumns));
 
 TypeSet typeOf(const NtcRec& ntc) {
-  if (ntc.t_notice_type == "TB2") return kTb2;
-  if (ntc.t_notice_type == "TB3") return kTb3;
-  if (ntc.t_notice_type == "TB5") return kTb5;
+  if (isExactly(ntc.t_notice_type, types::TB2)) return kTb2;
+  if (isExactly(ntc.t_notice_type, types::TB3)) return kTb3;
+  if (isExactly(ntc.t_notice_type, types::TB5)) return kTb5;
   return kOtherTypes;
 }
 

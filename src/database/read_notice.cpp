@@ -7,6 +7,7 @@
 #include "database/key_value.h"
 #include "database/operation.h"
 #include "database/recordset.h"
+#include "model/notice_words.h"
 #include "noticefile/writer_text.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -70,19 +71,19 @@ bool readColumns(const Recordset& rows, const Column<Record> (&columns)[Count], 
 }
 
 bool isTb2(const NtcRec& ntc) {
-  return ntc.t_notice_type == "TB2";
+  return isExactly(ntc.t_notice_type, types::TB2);
 }
 bool isNoTb2(const NtcRec& ntc) {
   return !isTb2(ntc);
 }
 bool isTb2OrTb3(const NtcRec& ntc) {
-  return isTb2(ntc) || ntc.t_notice_type == "TB3";
+  return isTb2(ntc) || isExactly(ntc.t_notice_type, types::TB3);
 }
 bool isNoTb2OrTb3(const NtcRec& ntc) {
   return !isTb2OrTb3(ntc);
 }
 bool isTb3OrTb5(const NtcRec& ntc) {
-  return ntc.t_notice_type == "TB3" || ntc.t_notice_type == "TB5";
+  return isExactly(ntc.t_notice_type, {types::TB3, types::TB5});
 }
 bool isNoTb(const NtcRec& ntc) {
   return !isTb2(ntc) && !isTb3OrTb5(ntc);
@@ -90,12 +91,12 @@ bool isNoTb(const NtcRec& ntc) {
 
 bool modifiesPlan(const NtcRec& ntc) {
   const std::string& fragment = isTb2OrTb3(ntc) ? ntc.t_plan : ntc.t_fragment;
-  return ntc.t_action == "MODIFY" && equalsIgnoringCase(trimText(fragment), "KV19D");
+  return isExactly(ntc.t_action, actions::MODIFY) && isInAnyCase(trimText(fragment), fragments::KV19D);
 }
 
 bool isAllotment(const NtcRec& ntc) {
   const std::string& type = ntc.t_notice_type;
-  return type == "GT2" || type == "GS2" || type == "DT2" || type == "DS2";
+  return isExactly(type, {types::GT2, types::GS2, types::DT2, types::DS2});
 }
 
 // clang-format off
@@ -304,7 +305,8 @@ PointRec readPoint(const Recordset& rows) {
 // Of a database that has it.
 bool readHistoryAndTarget(const Host& host, std::int32_t key, NtcRec& ntc, Connection& connection) {
   bool good = readProcNtcHist(key, ntc, connection);
-  if (ntc.t_action == "MODIFY") good = readFromFmtvArt5target(host, key, ntc, connection) && good;
+  if (isExactly(ntc.t_action, actions::MODIFY))
+    good = readFromFmtvArt5target(host, key, ntc, connection) && good;
   return good;
 }
 
@@ -336,7 +338,7 @@ bool readNtcFromDB(const Host& host, std::int32_t key, NtcRec& ntc, Connection& 
 
 bool readContourNtcFromDB(const Host& host, std::int32_t contourkey, NtcRec& ntc, Connection& connection) {
   const bool good = readContour(host, contourkey, ntc, connection);
-  ntc.t_notice_type = "GA1";
+  ntc.t_notice_type = types::GA1.text;
   return good;
 }
 

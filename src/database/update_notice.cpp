@@ -6,6 +6,7 @@
 #include "database/notice_columns.h"
 #include "database/notice_rows.h"
 #include "database/write_notice.h"
+#include "model/notice_words.h"
 #include "platform/message.h"
 
 namespace zamo {
@@ -41,21 +42,23 @@ bool updateDiagrams(const Host& host, const NtcRec& ntc, std::int32_t key, Conne
 
 bool updateAssignmentTables(const Host& host, const NtcRec& ntc, std::int32_t key, Connection& connection,
                             bool good) {
-  if (ntc.t_action == "MODIFY") good = updateArt5TargetTable(host, ntc, key, connection) && good;
+  if (isExactly(ntc.t_action, actions::MODIFY))
+    good = updateArt5TargetTable(host, ntc, key, connection) && good;
   good = updateKv19OpPrdTable(host, ntc.op_hours, key, connection) && good;
   good = updateAntHgtSection(host, ntc, key, connection) && good;
   return updateDiagrams(host, ntc, key, connection, good);
 }
 
 bool updateChildTables(const Host& host, const NtcRec& ntc, std::int32_t key, Connection& connection) {
-  if (ntc.t_action == "ADD") deleteArt5TargetTable(host, key, connection);
+  if (isExactly(ntc.t_action, actions::ADD)) deleteArt5TargetTable(host, key, connection);
   bool good = updateprocNtcHistTable(host, ntc, key, connection);
   // Remarks of both types go each time, so that only the internal ones stay.
   good = updateKV19RmksTable(host, ntc.t_remarks, key, true, connection) && good;
   good = updateKV19RmksTable(host, ntc.t_int_remarks, key, false, connection) && good;
   good = updateCoordSection(host, ntc.coord, key, ntc.d_rcv, connection) && good;
-  if (ntc.t_notice_type == "TB2") good = updateKv19OpPrdTable(host, ntc.op_hours, key, connection) && good;
-  if (ntc.t_notice_type == "GT1" || ntc.t_notice_type == "GS1") {
+  if (isExactly(ntc.t_notice_type, types::TB2))
+    good = updateKv19OpPrdTable(host, ntc.op_hours, key, connection) && good;
+  if (isExactly(ntc.t_notice_type, {types::GT1, types::GS1})) {
     return updateAssignmentTables(host, ntc, key, connection, good);
   }
   return updateAllotTable(host, ntc, key, connection) && good;
@@ -75,8 +78,8 @@ bool updateSubAreas(const Host& host, const NtcRec& ntc, Recordset& allotment, C
 
 bool updateNtcInDB(const Host& host, const NtcRec& ntc, std::int32_t key, Connection& connection) {
   return inTransaction(host, "updateNtcInDB", connection, [&] {
-    return ntc.t_notice_type == "GA1" ? updateContour(host, ntc, key, connection)
-                                      : updateKv19VornaTable(host, ntc, key, connection);
+    return isExactly(ntc.t_notice_type, types::GA1) ? updateContour(host, ntc, key, connection)
+                                                    : updateKv19VornaTable(host, ntc, key, connection);
   });
 }
 

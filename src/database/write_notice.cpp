@@ -10,11 +10,11 @@
 #include "database/notice_rows.h"
 #include "database/update_notice.h"
 #include "model/adm_numeric_base.h"
+#include "model/notice_words.h"
 #include "platform/coordinates.h"
 #include "platform/dates.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
-#include "platform/text.h"
 
 namespace zamo {
 namespace {
@@ -66,7 +66,7 @@ constexpr std::size_t kRemarkLength = 80;
 constexpr double kMostSubAreas = 9;
 
 bool isAssignmentType(const NtcRec& ntc) {
-  return ntc.t_notice_type == "GT1" || ntc.t_notice_type == "GS1";
+  return isExactly(ntc.t_notice_type, {types::GT1, types::GS1});
 }
 
 // Two planes share the letter of the notice, so each diagram says which it is.
@@ -111,14 +111,14 @@ void addVornaRow(const NtcRec& ntc, std::int32_t key, Connection& connection) {
   Recordset row = newRow("fmtv_vorna", "vornakey", key, connection);
   setForNewRow(row, vornaColumns(), ntc);
   collectAll(row, kVornaConstants);
-  row.Collect("is_public", equalsIgnoringCase(ntc.t_fragment, "NTFD_PZ") ? "TRUE" : "FALSE");
+  row.Collect("is_public", isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ) ? "TRUE" : "FALSE");
   row.Update();
   row.Close();
 }
 
 bool writeAssignmentTables(const Host& host, const NtcRec& ntc, std::int32_t key, Connection& connection) {
   bool good = true;
-  if (ntc.t_action == "MODIFY" && ntc.t_fragment == "NTFD_PZ") {
+  if (isExactly(ntc.t_action, actions::MODIFY) && isExactly(ntc.t_fragment, fragments::NTFD_PZ)) {
     good = writeToArt5TargetTable(host, ntc, key, connection) && good;
   }
   if (ntc.op_hours.present) good = writeToKv19OpPrdTable(host, ntc.op_hours, key, connection) && good;
@@ -134,7 +134,7 @@ bool writeChildTables(const Host& host, const NtcRec& ntc, std::int32_t key, Con
   good = writeCoordSection(host, ntc.coord, key, ntc.d_rcv, connection) && good;
   good = writeToKv19RmksTable(host, ntc.t_remarks, key, true, connection) && good;
   good = writeToKv19RmksTable(host, ntc.t_int_remarks, key, false, connection) && good;
-  if (ntc.t_notice_type == "TB2" && ntc.op_hours.present) {
+  if (isExactly(ntc.t_notice_type, types::TB2) && ntc.op_hours.present) {
     good = writeToKv19OpPrdTable(host, ntc.op_hours, key, connection) && good;
   }
   if (isAssignmentType(ntc)) {
@@ -204,7 +204,7 @@ bool writeNtcToDB(const Host& host, NtcRec& ntc, Connection& connection, Contour
                   bool force) {
   outcome = {};
   return inTransaction(host, "writeNtcToDB", connection, [&] {
-    if (ntc.t_notice_type == "GA1") return addContour(host, ntc, connection, outcome, force);
+    if (isExactly(ntc.t_notice_type, types::GA1)) return addContour(host, ntc, connection, outcome, force);
     return writeVornaKeyTable(host, ntc.vornakey, ntc.t_adm, connection) &&
            writeToKv19VornaTable(host, ntc, ntc.vornakey, connection);
   });

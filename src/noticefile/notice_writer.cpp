@@ -5,6 +5,7 @@
 #include <span>
 
 #include "model/fields.h"
+#include "model/notice_words.h"
 #include "noticefile/key_table.h"
 #include "noticefile/writer_text.h"
 #include "platform/dates.h"
@@ -36,26 +37,22 @@ constexpr KeyRow fixed(std::string_view key, std::string_view value) {
   return {key, {}, asConstant, nullptr, value};
 }
 
-bool isAction(const NtcRec& ntc, std::string_view action) {
-  return equalsIgnoringCase(ntc.t_action, action);
-}
-
 bool isModify(const NtcRec& ntc) {
-  return isAction(ntc, "MODIFY");
+  return isInAnyCase(ntc.t_action, actions::MODIFY);
 }
 bool isModifyByElements(const NtcRec& ntc) {
   return isModify(ntc) && ntc.t_trg_adm_ref_id.empty();
 }
 bool hasSite(const NtcRec& ntc) {
   const std::string& type = ntc.t_notice_type;
-  return type == "GT1" || type == "GS1" || type == "DS1" || type == "DT1";
+  return isExactly(type, {types::GT1, types::GS1, types::DS1, types::DT1});
 }
 bool hasAntenna(const NtcRec& ntc) {
   const std::string& type = ntc.t_notice_type;
-  return type != "GT2" && type != "GS2" && type != "GA1";
+  return !isExactly(type, {types::GT2, types::GS2, types::GA1});
 }
 bool isOfThePlan(const NtcRec& ntc) {
-  return ntc.t_fragment == "KV19D";
+  return isExactly(ntc.t_fragment, fragments::KV19D);
 }
 bool hasHours(const NtcRec& ntc) {
   return ntc.op_hours.present;
@@ -138,7 +135,7 @@ constexpr KeyRow kAllotKeys[] = {
 };
 
 constexpr KeyRow kTB3Keys[] = {
-    fixed("t_notice_type",        "TB3"),
+    fixed("t_notice_type",        types::TB3.text),
     {"t_action",                  textAt<&NtcRec::t_action>},
     {"t_plan",                    textAt<&NtcRec::t_plan>},
     {"t_trg_adm_ref_id",          textAt<&NtcRec::t_trg_adm_ref_id>},
@@ -146,8 +143,8 @@ constexpr KeyRow kTB3Keys[] = {
 
 // The same from a notice of another type, which becomes the target.
 constexpr KeyRow kNewTB3Keys[] = {
-    fixed("t_notice_type",        "TB3"),
-    fixed("t_action",             "PARTB"),
+    fixed("t_notice_type",        types::TB3.text),
+    fixed("t_action",             actions::PARTB.text),
     {"t_plan",                    textAt<&NtcRec::t_fragment>},
     {"t_trg_adm_ref_id",          textAt<&NtcRec::t_adm_ref_id>},
 };
@@ -170,8 +167,8 @@ constexpr KeyRow kTB2ConformKeys[] = {
 
 // The same from a notice that was added or modified.
 constexpr KeyRow kNewTB2Keys[] = {
-    fixed("t_action",             "CONFORM"),
-    fixed("t_plan",               "KV19D"),
+    fixed("t_action",             actions::CONFORM.text),
+    fixed("t_plan",               fragments::KV19D.text),
     {"t_plan_adm_ref_id",         textAt<&NtcRec::t_plan_adm_ref_id>},
 };
 
@@ -260,7 +257,7 @@ std::string makeCoordPart(const NtcRec& ntc) {
 
 std::string makeStationBody(const NtcRec& ntc) {
   std::string body = makeKeyLines(kStationKeys, ntc);
-  if (ntc.t_fragment == "NTFD_PZ") body += makeArt5Body(ntc);
+  if (isExactly(ntc.t_fragment, fragments::NTFD_PZ)) body += makeArt5Body(ntc);
   body += makeKeyLines(kStationKeysBehindArt5, ntc);
   if (ntc.digital.present) body += makeDigitalBody(ntc);
   body += makeCoordPart(ntc);
@@ -269,13 +266,14 @@ std::string makeStationBody(const NtcRec& ntc) {
 }
 
 bool isWrittenAsTB3(const NtcRec& ntc) {
-  return upperText(ntc.t_int_remarks).find("TB3") != std::string::npos || ntc.t_notice_type == "TB3";
+  return upperText(ntc.t_int_remarks).find("TB3") != std::string::npos ||
+         isExactly(ntc.t_notice_type, types::TB3);
 }
 
 std::string makeNoticeBody(const NtcRec& ntc, const TargetLookup& findTarget) {
   if (isWrittenAsTB3(ntc)) return makeTB3Body(ntc);
-  if (ntc.t_notice_type == "TB5") return makeTB5Body(ntc);
-  if (ntc.t_notice_type == "TB2") return makeTB2Body(ntc, findTarget);
+  if (isExactly(ntc.t_notice_type, types::TB5)) return makeTB5Body(ntc);
+  if (isExactly(ntc.t_notice_type, types::TB2)) return makeTB2Body(ntc, findTarget);
   return makeStationBody(ntc);
 }
 
@@ -350,14 +348,14 @@ std::string makeAntDiagrSections(const NtcRec& ntc) {
 
 std::string makeTB2Body(const NtcRec& ntc, const TargetLookup& findTarget) {
   std::string body = makeKeyLine("t_notice_type", ntc.t_notice_type);
-  if (isAction(ntc, "CONFORM")) body += makeKeyLines(kTB2ConformKeys, ntc);
-  if (isAction(ntc, "ADD") || isModify(ntc)) body += makeKeyLines(kNewTB2Keys, ntc);
+  if (isInAnyCase(ntc.t_action, actions::CONFORM)) body += makeKeyLines(kTB2ConformKeys, ntc);
+  if (isInAnyCase(ntc.t_action, actions::ADD) || isModify(ntc)) body += makeKeyLines(kNewTB2Keys, ntc);
   if (isModify(ntc)) body += makeTargetLines(ntc, findTarget);
   return body + makeKeyLines(kTB2UseKeys, ntc);
 }
 
 std::string makeTB3Body(const NtcRec& ntc) {
-  const bool isAlready = ntc.t_action == "PARTB";
+  const bool isAlready = isExactly(ntc.t_action, actions::PARTB);
   return makeKeyLines(isAlready ? std::span<const KeyRow>(kTB3Keys) : kNewTB3Keys, ntc) + makeCoordPart(ntc);
 }
 

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "model/fields.h"
+#include "model/notice_words.h"
 #include "platform/coordinates.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -156,7 +157,7 @@ void storeContourId(NoticeReading& notice) {
   const std::string_view value = notice.section.keyValue.value;
   if (ntc.t_notice_type.empty()) {
     bufferContourId(notice, value);
-  } else if (ntc.t_notice_type != "GA1") {
+  } else if (!isExactly(ntc.t_notice_type, types::GA1)) {
     addContourIdOfAllotment(notice, value);
   } else if (ntc.digital.contour.t_contour_id.empty()) {
     ntc.digital.contour.t_contour_id = value;
@@ -169,7 +170,7 @@ void storeContourId(NoticeReading& notice) {
 void settleBufferedContourIds(NoticeReading& notice) {
   NtcRec& ntc = notice.section.ntc;
   auto& buffer = notice.bufferedContourIds;
-  if (ntc.t_notice_type != "GA1") {
+  if (!isExactly(ntc.t_notice_type, types::GA1)) {
     for (const std::string& id : buffer) placeContourId(notice, id);
   } else if (buffer.size() == 1) {
     ntc.digital.contour.t_contour_id = buffer.front();
@@ -182,8 +183,8 @@ void settleBufferedContourIds(NoticeReading& notice) {
 
 void settleNoticeType(NoticeReading& notice) {
   NtcRec& ntc = notice.section.ntc;
-  if (ntc.t_notice_type == "GT1" || ntc.t_notice_type == "GT2") ntc.stn_cls = "BT";
-  if (ntc.t_notice_type == "GS1" || ntc.t_notice_type == "GS2") ntc.stn_cls = "BC";
+  if (isExactly(ntc.t_notice_type, {types::GT1, types::GT2})) ntc.stn_cls = "BT";
+  if (isExactly(ntc.t_notice_type, {types::GS1, types::GS2})) ntc.stn_cls = "BC";
   settleBufferedContourIds(notice);
 }
 

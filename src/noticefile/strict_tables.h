@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "model/notice_words.h"
+
 namespace zamo {
 
 // Wide: one blank more between the line number and the message, which has a blank of its own.
@@ -82,10 +84,14 @@ struct SystemVariantRule {
   std::array<std::string_view, 2> allWords() const { return {lengthMessage, message}; }
 };
 
-inline constexpr std::string_view kNoticeTypes[] = {"GT1", "GS1", "GS2", "GT2", "GA1", "TB5", "TB3", "TB2"};
-inline constexpr std::string_view kPlans[] = {"KV19D"};
-inline constexpr std::string_view kFragments[] = {"NTFD_PZ", "KV19D"};
-inline constexpr std::string_view kActions[] = {"MODIFY", "ADD", "SUPPRESS", "WITHDRAW", "CONFORM", "PARTB"};
+inline constexpr std::string_view kNoticeTypes[] = {types::GT1.text, types::GS1.text, types::GS2.text,
+                                                    types::GT2.text, types::GA1.text, types::TB5.text,
+                                                    types::TB3.text, types::TB2.text};
+inline constexpr std::string_view kPlans[] = {fragments::KV19D.text};
+inline constexpr std::string_view kFragments[] = {fragments::NTFD_PZ.text, fragments::KV19D.text};
+inline constexpr std::string_view kActions[] = {actions::MODIFY.text,   actions::ADD.text,
+                                                actions::SUPPRESS.text, actions::WITHDRAW.text,
+                                                actions::CONFORM.text,  actions::PARTB.text};
 inline constexpr std::string_view kProvisions[] = {"PZ11.2"};
 inline constexpr std::string_view kAssignmentCodes[] = {"C", "L", "S"};
 inline constexpr std::string_view kPolarizations[] = {"H", "V", "M", "U"};

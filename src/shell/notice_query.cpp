@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "database/lookups.h"
+#include "model/notice_words.h"
 #include "platform/code_page.h"
 #include "platform/message.h"
 #include "platform/run_time_error.h"
@@ -184,7 +185,7 @@ void openGridRow(Shell& shell, const std::optional<GridRow>& row) {
     return;
   }
   run.IndexPos = place;
-  shell.forms.openNotice(row->key, place, run.GridListsContours ? "GA1" : row->type);
+  shell.forms.openNotice(row->key, place, run.GridListsContours ? std::string(types::GA1.text) : row->type);
   bindNoticeGrid(shell);
   showStatus(shell, kUpdated.filled({countText(shell)}));
 }

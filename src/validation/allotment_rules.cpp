@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/notice_words.h"
 #include "platform/numbers.h"
 #include "platform/run_time_error.h"
 #include "platform/text.h"
@@ -149,7 +150,7 @@ void checkArea(RuleReport& report, const NtcRec& ntc) {
 
 bool checkAllotValues(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
-  if (!ntc.t_fragment.empty() && !isFragment(ntc, "KV19D")) {
+  if (!ntc.t_fragment.empty() && !isInAnyCase(ntc.t_fragment, fragments::KV19D)) {
     report.fatal(kFragment);
   }
   const std::string& subAreas = ntc.digital.allot.t_nb_sub_areas;
@@ -170,8 +171,8 @@ bool checkAllotMandatory(const NtcRec& ntc, std::string& errs, std::string_view 
   if (checkPlanEntryAllot(ntc.t_plan_entry, ntc.digital.t_sfn_id, msg)) report.fatalRow(msg);
   checkArea(report, ntc);
   demand(report, ntc, kMandatoryPlanning);
-  if (isType(ntc, "GT2")) demand(report, ntc, kMandatoryForTelevision);
-  if (isAction(ntc, "ADD") && !ntc.t_trg_adm_ref_id.empty()) {
+  if (isInAnyCase(ntc.t_notice_type, types::GT2)) demand(report, ntc, kMandatoryForTelevision);
+  if (isInAnyCase(ntc.t_action, actions::ADD) && !ntc.t_trg_adm_ref_id.empty()) {
     report.fatal(kNoTargetOfAdd, {ntc.t_action});
   }
   forbid(report, ntc, kAbsent, ntc.t_notice_type);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/notice_words.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "validation/absent_fields.h"
@@ -124,9 +125,9 @@ bool hasAnyOfTarget(const NtcRec& ntc) {
 }
 
 void checkTarget(RuleReport& report, const NtcRec& ntc) {
-  if (!isAction(ntc, "MODIFY")) return;
+  if (!isInAnyCase(ntc.t_action, actions::MODIFY)) return;
   const bool named = !ntc.t_trg_adm_ref_id.empty();
-  if (!isFragment(ntc, "NTFD_PZ")) {
+  if (!isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ)) {
     if (!named) report.fatal(kNoTargetId);
   } else if (!named && !hasWholeTarget(ntc)) {
     report.fatal(kNoTarget);
@@ -362,28 +363,28 @@ void checkTelevision(RuleReport& report, const NtcRec& ntc) {
   const bool angle = !ntc.t_beam_tilt_angle.empty();
   if (power && !angle) report.fatal(kTiltAngleMissing);
   if (angle && !power) report.fatal(kTiltPowerMissing);
-  if (isFragment(ntc, "KV19D")) checkSystemUnderArt4(report, ntc);
-  if (isFragment(ntc, "NTFD_PZ")) checkSystemUnderArt5(report, ntc);
+  if (isInAnyCase(ntc.t_fragment, fragments::KV19D)) checkSystemUnderArt4(report, ntc);
+  if (isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ)) checkSystemUnderArt5(report, ntc);
 }
 
 void checkAbsent(RuleReport& report, const NtcRec& ntc) {
   forbid(report, ntc, kNoNetworkType, ntc.t_notice_type);
-  if (isAction(ntc, "ADD") && !ntc.t_trg_adm_ref_id.empty()) {
+  if (isInAnyCase(ntc.t_action, actions::ADD) && !ntc.t_trg_adm_ref_id.empty()) {
     report.fatal(kNoTargetOfAdd, {ntc.t_action});
   }
   forbid(report, ntc, kAbsentAllotment, ntc.t_notice_type);
   if (!ntc.digital.contour.t_nb_test_pts.empty()) forbid(report, ntc, kAbsentTestPoints, ntc.t_notice_type);
   forbid(report, ntc, kAbsentContour, ntc.t_notice_type);
-  if (isType(ntc, "GS1")) forbid(report, ntc, kAbsentForSound, ntc.t_notice_type);
-  if (isFragment(ntc, "KV19D")) forbid(report, ntc, kAbsentUnderArt4, "");
-  if (isFragment(ntc, "NTFD_PZ")) forbid(report, ntc, kAbsentUnderArt5, "");
+  if (isInAnyCase(ntc.t_notice_type, types::GS1)) forbid(report, ntc, kAbsentForSound, ntc.t_notice_type);
+  if (isInAnyCase(ntc.t_fragment, fragments::KV19D)) forbid(report, ntc, kAbsentUnderArt4, "");
+  if (isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ)) forbid(report, ntc, kAbsentUnderArt5, "");
 }
 
 }  // namespace
 
 bool checkAssgnValues(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
-  if (!ntc.t_fragment.empty() && !isFragment(ntc, "KV19D") && !isFragment(ntc, "NTFD_PZ")) {
+  if (!ntc.t_fragment.empty() && !isInAnyCase(ntc.t_fragment, {fragments::KV19D, fragments::NTFD_PZ})) {
     report.fatal(kFragment);
   }
   if (isGivenAndAbove(ntc.t_erp_h_dbw, kHighestPower)) {
@@ -396,7 +397,7 @@ bool checkAssgnValues(const NtcRec& ntc, std::string& errs, std::string_view lab
     report.fatal(kPolarization);
   }
   if (!ntc.t_call_sign.empty()) report.warning(kCallSign);
-  if (isType(ntc, "GT1")) checkBeamTilt(report, ntc);
+  if (isInAnyCase(ntc.t_notice_type, types::GT1)) checkBeamTilt(report, ntc);
   checkHeightsAndDiagrams(report, ntc);
   return report.good;
 }
@@ -409,10 +410,11 @@ bool checkAssgnMandatory(const NtcRec& ntc, std::string& errs, std::string_view 
   checkPolarization(report, ntc);
   checkNonDirectional(report, ntc);
   checkPlanEntry(report, ntc);
-  if (isFragment(ntc, "KV19D")) demand(report, ntc, kMandatoryUnderArt4);
-  if (isFragment(ntc, "NTFD_PZ")) demand(report, ntc, kMandatoryUnderArt5);
-  if (isType(ntc, "GS1") && ntc.digital.t_ref_plan_cfg.empty()) report.fatal(kSoundPlanning);
-  if (isType(ntc, "GT1")) checkTelevision(report, ntc);
+  if (isInAnyCase(ntc.t_fragment, fragments::KV19D)) demand(report, ntc, kMandatoryUnderArt4);
+  if (isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ)) demand(report, ntc, kMandatoryUnderArt5);
+  if (isInAnyCase(ntc.t_notice_type, types::GS1) && ntc.digital.t_ref_plan_cfg.empty())
+    report.fatal(kSoundPlanning);
+  if (isInAnyCase(ntc.t_notice_type, types::GT1)) checkTelevision(report, ntc);
   checkAbsent(report, ntc);
   const std::string& associated = ntc.digital.t_associated_allot_sfn_id;
   if (!associated.empty() && !ntc.digital.t_sfn_id.empty() && associated != ntc.digital.t_sfn_id) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "model/notice_words.h"
 #include "noticefile/strict_reader.h"
 #include "noticefile/strict_tables.h"
 #include "platform/numbers.h"
@@ -56,15 +57,15 @@ void join(RuleReport& report, const NtcRec& ntc, RuleGroup group) {
 }
 
 void checkTbValues(RuleReport& report, const NtcRec& ntc) {
-  if (isType(ntc, "TB5")) join(report, ntc, checkTb5Values);
-  if (isType(ntc, "TB3")) join(report, ntc, checkTb3Values);
-  if (isType(ntc, "TB2")) join(report, ntc, checkTb2Values);
+  if (isInAnyCase(ntc.t_notice_type, types::TB5)) join(report, ntc, checkTb5Values);
+  if (isInAnyCase(ntc.t_notice_type, types::TB3)) join(report, ntc, checkTb3Values);
+  if (isInAnyCase(ntc.t_notice_type, types::TB2)) join(report, ntc, checkTb2Values);
 }
 
 void checkAction(RuleReport& report, const NtcRec& ntc) {
-  if (isAnyType(ntc, {"GA1", "TB5"})) {
-    if (isAction(ntc, "MODIFY")) report.fatal(kActionOfContour);
-  } else if (isAction(ntc, "SUPPRESS")) {
+  if (isInAnyCase(ntc.t_notice_type, {types::GA1, types::TB5})) {
+    if (isInAnyCase(ntc.t_action, actions::MODIFY)) report.fatal(kActionOfContour);
+  } else if (isInAnyCase(ntc.t_action, actions::SUPPRESS)) {
     report.fatal(kActionOfOthers);
   }
 }
@@ -73,7 +74,7 @@ void checkDates(RuleReport& report, const NtcRec& ntc, const Date& today) {
   if (!ntc.t_d_inuse.empty() && !ntc.t_d_expiry.empty() && dateOf(ntc.t_d_expiry) < dateOf(ntc.t_d_inuse)) {
     report.fatal(kExpiryBeforeUse);
   }
-  if (ntc.t_fragment == "NTFD_PZ" && !ntc.t_d_inuse.empty()) {
+  if (isExactly(ntc.t_fragment, fragments::NTFD_PZ) && !ntc.t_d_inuse.empty()) {
     const Date received = ntc.d_rcv.empty() ? today : dateOf(ntc.d_rcv);
     if (dateOf(ntc.t_d_inuse) > addMonths(received, 3)) report.fatal(kUseTooLate);
   }
@@ -108,10 +109,10 @@ void checkRanges(RuleReport& report, const NtcRec& ntc, std::span<const RangeRow
 
 void checkSpectrumMask(RuleReport& report, const NtcRec& ntc) {
   const std::string& mask = ntc.digital.t_spect_mask;
-  if (isAnyType(ntc, {"GT1", "GT2"}) && isGivenAndNotOneOf(mask, {"S", "N"})) {
+  if (isInAnyCase(ntc.t_notice_type, {types::GT1, types::GT2}) && isGivenAndNotOneOf(mask, {"S", "N"})) {
     report.fatal(kMaskOfTelevision);
   }
-  if (isAnyType(ntc, {"GS1", "GS2"}) && isGivenAndNotOneOf(mask, {"1", "2", "3"})) {
+  if (isInAnyCase(ntc.t_notice_type, {types::GS1, types::GS2}) && isGivenAndNotOneOf(mask, {"1", "2", "3"})) {
     report.fatal(kMaskOfSound);
   }
 }
@@ -144,7 +145,7 @@ void checkSoundPlanning(RuleReport& report, const NtcRec& ntc) {
 }
 
 void checkTelevisionPlanning(RuleReport& report, const NtcRec& ntc) {
-  if (isType(ntc, "GT2") &&
+  if (isInAnyCase(ntc.t_notice_type, types::GT2) &&
       isGivenAndNotOneOf(ntc.digital.allot.t_typ_ref_netwk, {"RN1", "RN2", "RN3", "RN4"})) {
     report.fatal(kNetwork);
   }
@@ -166,19 +167,19 @@ constexpr MandatoryRow kMandatoryCountry[] = {
 };
 
 struct TypeGroup {
-  std::string_view type;
+  NoticeType type;
   RuleGroup check;
 };
 
 constexpr TypeGroup kMandatoryGroups[] = {
-    {"GT1", checkAssgnMandatory},
-    {"GS1", checkAssgnMandatory},
-    {"GT2", checkAllotMandatory},
-    {"GS2", checkAllotMandatory},
-    {"GA1", checkContourMandatory},
-    {"TB5", checkTb5Mandatory},
-    {"TB3", checkTb3Mandatory},
-    {"TB2", checkTb2Mandatory},
+    {types::GT1, checkAssgnMandatory},
+    {types::GS1, checkAssgnMandatory},
+    {types::GT2, checkAllotMandatory},
+    {types::GS2, checkAllotMandatory},
+    {types::GA1, checkContourMandatory},
+    {types::TB5, checkTb5Mandatory},
+    {types::TB3, checkTb3Mandatory},
+    {types::TB2, checkTb2Mandatory},
 };
 
 // For a fragment other than NTFD_PZ. The type, " - Fragment: " and the fragment follow each message.
@@ -195,12 +196,12 @@ const TableMessages kListedNotified("fragment other than NTFD_PZ, all types but 
 // clang-format on
 
 void checkFragmentFields(RuleReport& report, const NtcRec& ntc) {
-  if (isAnyType(ntc, {"TB3", "TB2"})) {
+  if (isInAnyCase(ntc.t_notice_type, {types::TB3, types::TB2})) {
     if (!ntc.t_fragment.empty()) report.fatal(kNoFragment, {ntc.t_notice_type});
   } else if (!ntc.t_plan.empty()) {
     report.fatal(kNoPlan, {ntc.t_notice_type});
   }
-  if (!isFragment(ntc, "NTFD_PZ") && !isType(ntc, "TB2")) {
+  if (!isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ) && !isInAnyCase(ntc.t_notice_type, types::TB2)) {
     forbid(report, ntc, kOnlyInNotifiedFragment, ntc.t_notice_type + " - Fragment: " + ntc.t_fragment);
   }
 }
@@ -210,17 +211,17 @@ void checkFragmentFields(RuleReport& report, const NtcRec& ntc) {
 bool checkNtcValues(const NtcRec& ntc, std::string& errs, std::string_view label, const Date& today) {
   RuleReport report{errs, label};
   checkTbValues(report, ntc);
-  if (isAnyType(ntc, {"GT1", "GS1"})) join(report, ntc, checkAssgnValues);
+  if (isInAnyCase(ntc.t_notice_type, {types::GT1, types::GS1})) join(report, ntc, checkAssgnValues);
   checkAction(report, ntc);
   checkDates(report, ntc, today);
   checkRanges(report, ntc, kHeightRanges);
   checkSpectrumMask(report, ntc);
   checkSystemVariant(report, ntc);
   checkRanges(report, ntc, kOffsetRange);
-  if (isAnyType(ntc, {"GT2", "GS2"})) join(report, ntc, checkAllotValues);
-  if (isAnyType(ntc, {"GS1", "GS2"})) checkSoundPlanning(report, ntc);
-  if (isAnyType(ntc, {"GT2", "GT1"})) checkTelevisionPlanning(report, ntc);
-  if (isType(ntc, "GA1") && !isWithin(ntc.digital.contour.t_nb_test_pts, 3, 99)) {
+  if (isInAnyCase(ntc.t_notice_type, {types::GT2, types::GS2})) join(report, ntc, checkAllotValues);
+  if (isInAnyCase(ntc.t_notice_type, {types::GS1, types::GS2})) checkSoundPlanning(report, ntc);
+  if (isInAnyCase(ntc.t_notice_type, {types::GT2, types::GT1})) checkTelevisionPlanning(report, ntc);
+  if (isInAnyCase(ntc.t_notice_type, types::GA1) && !isWithin(ntc.digital.contour.t_nb_test_pts, 3, 99)) {
     report.fatal(kTestPoints);
   }
   return report.good;
@@ -229,15 +230,17 @@ bool checkNtcValues(const NtcRec& ntc, std::string& errs, std::string_view label
 bool checkNtcMandatory(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   demand(report, ntc, kMandatory);
-  if (!isAnyType(ntc, {"TB2", "TB3", "GA1"})) {
+  if (!isInAnyCase(ntc.t_notice_type, {types::TB2, types::TB3, types::GA1})) {
     demand(report, ntc, kMandatoryFragment);
-    if (isAction(ntc, "MODIFY") && ntc.t_trg_adm_ref_id != ntc.t_adm_ref_id && ntc.t_fragment != "NTFD_PZ") {
+    if (isInAnyCase(ntc.t_action, actions::MODIFY) && ntc.t_trg_adm_ref_id != ntc.t_adm_ref_id &&
+        !isExactly(ntc.t_fragment, fragments::NTFD_PZ)) {
       report.fatal(kTargetDiffers, {ntc.t_fragment});
     }
   }
-  if (!isAnyType(ntc, {"TB5", "TB2", "TB3"})) demand(report, ntc, kMandatoryCountry);
+  if (!isInAnyCase(ntc.t_notice_type, {types::TB5, types::TB2, types::TB3}))
+    demand(report, ntc, kMandatoryCountry);
   for (const TypeGroup& group : kMandatoryGroups) {
-    if (isType(ntc, group.type)) join(report, ntc, group.check);
+    if (isInAnyCase(ntc.t_notice_type, group.type)) join(report, ntc, group.check);
   }
   checkFragmentFields(report, ntc);
   return report.good;

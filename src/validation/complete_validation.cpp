@@ -1,5 +1,6 @@
 #include "validation/complete_validation.h"
 
+#include "model/notice_words.h"
 #include "model/ntc_reset.h"
 #include "noticefile/section_reader.h"
 #include "platform/message.h"
@@ -52,9 +53,9 @@ void validateHead(Validation& validation) {
 // What tells a notice from the others of its file, for the labels of its findings.
 std::string identityOf(const NtcRec& ntc) {
   const std::string& type = ntc.t_notice_type;
-  if (type == "GA1") return " : Contour_id = " + ntc.digital.contour.t_contour_id;
-  if (type == "TB5" || type == "TB3") return " : Trg_Admin_ref_id = " + ntc.t_trg_adm_ref_id;
-  if (type == "TB2") return " : Plan_Admin_ref_id = " + ntc.t_plan_adm_ref_id;
+  if (isExactly(type, types::GA1)) return " : Contour_id = " + ntc.digital.contour.t_contour_id;
+  if (isExactly(type, {types::TB5, types::TB3})) return " : Trg_Admin_ref_id = " + ntc.t_trg_adm_ref_id;
+  if (isExactly(type, types::TB2)) return " : Plan_Admin_ref_id = " + ntc.t_plan_adm_ref_id;
   return " : Admin_ref_id = " + ntc.t_adm_ref_id;
 }
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <span>
 
+#include "model/notice_words.h"
 #include "platform/numbers.h"
-#include "platform/text.h"
 #include "validation/ref_data.h"
 #include "validation/rule_report.h"
 
@@ -68,7 +68,7 @@ bool checkDabFrequency(std::string_view frequency, std::string& msg) {
 bool checkChannelRaster(const NtcRec& ntc, char letter, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   const auto tell = [&](const Message& message) {
-    if (isFragment(ntc, "NTFD_PZ")) {
+    if (isInAnyCase(ntc.t_fragment, fragments::NTFD_PZ)) {
       report.warning(message);
     } else {
       report.fatal(message);

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <vector>
 
+#include "model/notice_words.h"
 #include "noticefile/writer_text.h"
 #include "platform/coordinates.h"
 #include "platform/numbers.h"
@@ -94,7 +95,7 @@ void checkSite(Judge& judge, SiteTexts site, const Message& where) {
 
 void checkSites(Judge& judge) {
   NtcRec& ntc = judge.ntc;
-  if (!isAnyType(ntc, {"GT1", "GS1"})) return;
+  if (!isInAnyCase(ntc.t_notice_type, {types::GT1, types::GS1})) return;
   const SiteTexts site{ntc.long_deg, ntc.long_min, ntc.long_sec, ntc.long_ew,
                        ntc.lat_deg,  ntc.lat_min,  ntc.lat_sec,  ntc.lat_ns};
   if (isIncomplete(site)) {
@@ -102,7 +103,9 @@ void checkSites(Judge& judge) {
   } else {
     checkSite(judge, site, kSite);
   }
-  if (ntc.t_fragment != "NTFD_PZ" || ntc.t_action != "MODIFY" || !ntc.t_trg_adm_ref_id.empty()) return;
+  if (!isExactly(ntc.t_fragment, fragments::NTFD_PZ) || !isExactly(ntc.t_action, actions::MODIFY) ||
+      !ntc.t_trg_adm_ref_id.empty())
+    return;
   const SiteTexts target{ntc.trg_long_deg, ntc.trg_long_min, ntc.trg_long_sec, ntc.trg_long_ew,
                          ntc.trg_lat_deg,  ntc.trg_lat_min,  ntc.trg_lat_sec,  ntc.trg_lat_ns};
   if (isIncomplete(target)) {
@@ -125,7 +128,7 @@ void checkTestPoint(Judge& judge, const PointRec& point) {
 }
 
 void checkContour(Judge& judge) {
-  if (!isType(judge.ntc, "GA1")) return;
+  if (!isInAnyCase(judge.ntc.t_notice_type, types::GA1)) return;
   const ContourRec& contour = judge.ntc.digital.contour;
   const double count = leadingNumber(contour.t_nb_test_pts);
   if (count > static_cast<double>(kMostPoints) || count == 0) {
@@ -213,7 +216,7 @@ bool checkNtcRefsGeo(const Host& host, const GzmpMap& map, NtcRec& ntc, std::str
   Judge judge{host, map, findings, ntc};
   checkCountry(findings, ntc);
   checkSites(judge);
-  checkCoord(findings, ntc, {"GT1", "GS1", "GS2", "GT2", "TB3"});
+  checkCoord(findings, ntc, {types::GT1, types::GS1, types::GS2, types::GT2, types::TB3});
   checkGeoArea(findings, ntc);
   checkContour(judge);
   return findings.good;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "model/notice_words.h"
 #include "platform/text.h"
 #include "validation/ref_data.h"
 #include "validation/reference_steps.h"
@@ -27,7 +28,7 @@ const Message kAddressCode("t_addr_code is none of the administration in the mas
 }  // namespace
 
 void checkCountry(RuleReport& report, const NtcRec& ntc) {
-  if (isAnyType(ntc, {"TB2", "TB5", "TB3"})) return;
+  if (isInAnyCase(ntc.t_notice_type, {types::TB2, types::TB5, types::TB3})) return;
   if (ntc.t_ctry.empty()) {
     report.fatal(kNoCountry);
   } else if (!isCtryOfAdm(ntc.t_ctry, ntc.t_adm)) {
@@ -37,7 +38,7 @@ void checkCountry(RuleReport& report, const NtcRec& ntc) {
 
 void checkGeoArea(RuleReport& report, const NtcRec& ntc) {
   const std::string& area = ntc.digital.allot.t_geo_area;
-  if (!isAnyType(ntc, {"GT2", "GS2"}) || area.empty()) return;
+  if (!isInAnyCase(ntc.t_notice_type, {types::GT2, types::GS2}) || area.empty()) return;
   if (!isCtryOfAdm(area, ntc.t_adm)) {
     report.fatal(kForeignArea, {area, ntc.t_adm});
   } else if (!equalsIgnoringCase(area, ntc.t_ctry)) {
@@ -45,8 +46,8 @@ void checkGeoArea(RuleReport& report, const NtcRec& ntc) {
   }
 }
 
-void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<std::string_view> types) {
-  if (!isAnyType(ntc, types) || !ntc.coord.present) return;
+void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<NoticeType> types) {
+  if (!isInAnyCase(ntc.t_notice_type, types) || !ntc.coord.present) return;
   const auto last = std::min(static_cast<std::size_t>(ntc.coord.count) + 1, ntc.coord.entries.size());
   for (const CoordEntryRec& entry : std::span(ntc.coord.entries).first(last)) {
     if (entry.adm.empty()) continue;
@@ -69,7 +70,7 @@ bool checkNtcRefs(const NtcRec& ntc, std::string& errs, std::string_view label) 
   RuleReport report{errs, label};
   checkCountry(report, ntc);
   checkGeoArea(report, ntc);
-  checkCoord(report, ntc, {"GT1", "GS1", "GS2", "GT2", "TB2", "TB3"});
+  checkCoord(report, ntc, {types::GT1, types::GS1, types::GS2, types::GT2, types::TB2, types::TB3});
   return report.good;
 }
 

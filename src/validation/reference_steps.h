@@ -2,8 +2,8 @@
 #pragma once
 
 #include <initializer_list>
-#include <string_view>
 
+#include "model/notice_words.h"
 #include "model/ntc_rec.h"
 #include "validation/rule_report.h"
 
@@ -16,6 +16,6 @@ void checkCountry(RuleReport& report, const NtcRec& ntc);
 void checkGeoArea(RuleReport& report, const NtcRec& ntc);
 
 // The coordinated administrations of a notice of one of the types.
-void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<std::string_view> types);
+void checkCoord(RuleReport& report, const NtcRec& ntc, std::initializer_list<NoticeType> types);
 
 }  // namespace zamo

@@ -41,22 +41,6 @@ void RuleReport::add(std::string_view head, std::string_view gap, std::string_vi
   errs.append(head).append(label).append(gap).append(message).append(kLineEnd);
 }
 
-bool isType(const NtcRec& ntc, std::string_view type) {
-  return equalsIgnoringCase(ntc.t_notice_type, type);
-}
-
-bool isAnyType(const NtcRec& ntc, std::initializer_list<std::string_view> types) {
-  return std::any_of(types.begin(), types.end(), [&ntc](std::string_view type) { return isType(ntc, type); });
-}
-
-bool isFragment(const NtcRec& ntc, std::string_view fragment) {
-  return equalsIgnoringCase(ntc.t_fragment, fragment);
-}
-
-bool isAction(const NtcRec& ntc, std::string_view action) {
-  return equalsIgnoringCase(ntc.t_action, action);
-}
-
 bool hasAntHgt(const NtcRec& ntc) {
   return hasValue(ntc.ant_hgt);
 }

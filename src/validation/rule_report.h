@@ -73,11 +73,6 @@ void forbid(RuleReport& report, const NtcRec& ntc, const AbsentRow (&rows)[Rows]
 }
 
 // Questions to a record that several groups ask.
-bool isType(const NtcRec& ntc, std::string_view type);
-bool isAnyType(const NtcRec& ntc, std::initializer_list<std::string_view> types);
-bool isFragment(const NtcRec& ntc, std::string_view fragment);
-bool isAction(const NtcRec& ntc, std::string_view action);
-
 // Any value in one of the three sections of azimuths.
 bool hasAntHgt(const NtcRec& ntc);
 bool hasAntDiagrH(const NtcRec& ntc);

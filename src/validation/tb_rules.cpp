@@ -1,6 +1,6 @@
 #include "validation/tb_rules.h"
 
-#include "platform/text.h"
+#include "model/notice_words.h"
 #include "validation/absent_fields.h"
 #include "validation/rule_report.h"
 
@@ -120,7 +120,7 @@ bool isGivenAndNot(std::string_view value, bool accepted) {
 }
 
 void checkPlan(RuleReport& report, const NtcRec& ntc) {
-  if (isGivenAndNot(ntc.t_plan, equalsIgnoringCase(ntc.t_plan, "KV19D"))) {
+  if (isGivenAndNot(ntc.t_plan, isInAnyCase(ntc.t_plan, fragments::KV19D))) {
     report.fatal(kPlanValue);
   }
 }
@@ -129,10 +129,10 @@ void checkPlan(RuleReport& report, const NtcRec& ntc) {
 
 bool checkTb5Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
-  if (isGivenAndNot(ntc.t_fragment, isFragment(ntc, "KV19D") || isFragment(ntc, "NTFD_PZ"))) {
+  if (isGivenAndNot(ntc.t_fragment, isInAnyCase(ntc.t_fragment, {fragments::KV19D, fragments::NTFD_PZ}))) {
     report.fatal(kFragment);
   }
-  if (isGivenAndNot(ntc.t_action, isAction(ntc, "WITHDRAW") || isAction(ntc, "SUPPRESS"))) {
+  if (isGivenAndNot(ntc.t_action, isInAnyCase(ntc.t_action, {actions::WITHDRAW, actions::SUPPRESS}))) {
     report.fatal(kActionOfTb5);
   }
   return report.good;
@@ -141,14 +141,14 @@ bool checkTb5Values(const NtcRec& ntc, std::string& errs, std::string_view label
 bool checkTb3Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   checkPlan(report, ntc);
-  if (isGivenAndNot(ntc.t_action, isAction(ntc, "PARTB"))) report.fatal(kActionOfTb3);
+  if (isGivenAndNot(ntc.t_action, isInAnyCase(ntc.t_action, actions::PARTB))) report.fatal(kActionOfTb3);
   return report.good;
 }
 
 bool checkTb2Values(const NtcRec& ntc, std::string& errs, std::string_view label) {
   RuleReport report{errs, label};
   checkPlan(report, ntc);
-  if (isGivenAndNot(ntc.t_action, isAction(ntc, "CONFORM"))) report.fatal(kActionOfTb2);
+  if (isGivenAndNot(ntc.t_action, isInAnyCase(ntc.t_action, actions::CONFORM))) report.fatal(kActionOfTb2);
   return report.good;
 }
 
@@ -176,11 +176,11 @@ bool checkTbAbsentFields(const NtcRec& ntc, std::string& errs, std::string_view 
   RuleReport report{errs, label};
   const std::string& type = ntc.t_notice_type;
   forbid(report, ntc, kAbsent, type);
-  if (!isType(ntc, "TB3")) forbid(report, ntc, kAbsentExceptInTb3, type);
+  if (!isInAnyCase(ntc.t_notice_type, types::TB3)) forbid(report, ntc, kAbsentExceptInTb3, type);
   forbid(report, ntc, kAbsentAntenna, type);
   if (!ntc.digital.contour.t_nb_test_pts.empty()) forbid(report, ntc, kAbsentTestPoints, type);
   forbid(report, ntc, kAbsentSystem, type);
-  if (!isType(ntc, "TB2")) forbid(report, ntc, kAbsentExceptInTb2, type);
+  if (!isInAnyCase(ntc.t_notice_type, types::TB2)) forbid(report, ntc, kAbsentExceptInTb2, type);
   forbid(report, ntc, kAbsentDeclarations, type);
   return report.good;
 }
