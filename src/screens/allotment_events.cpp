@@ -15,25 +15,25 @@ const Message kNoContourId("box: a contour is added to an allotment's list witho
 const Message kEnoughContours("box: the list of an allotment's contours is complete", "The number of sub-areas have been added");
 // clang-format on
 
-constexpr std::string_view kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
-constexpr std::string_view kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas", "FrameSubArea"};
+constexpr ControlName kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
+constexpr ControlName kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas", "FrameSubArea"};
 
 template <std::size_t Count>
-void show(Screen& screen, const std::string_view (&controls)[Count], bool visible) {
-  for (const std::string_view control : controls) screen.setVisible(control, visible);
+void show(Screen& screen, const ControlName (&controls)[Count], bool visible) {
+  for (const ControlName control : controls) screen.setVisible(control, visible);
 }
 
 // An area is either made of sub-areas or a whole country: the way that is told hides the other one, never
 // itself. What is stored is seen, even if it is both.
 template <std::size_t OwnCount, std::size_t OtherCount>
-void showOtherWay(Screen& screen, bool isTold, const std::string_view (&own)[OwnCount],
-                  const std::string_view (&other)[OtherCount], bool isOtherTold) {
+void showOtherWay(Screen& screen, bool isTold, const ControlName (&own)[OwnCount],
+                  const ControlName (&other)[OtherCount], bool isOtherTold) {
   if (isTold) show(screen, own, true);
   show(screen, other, !isTold || (screen.filling && isOtherTold));
   screen.setVisible("Lbl_LMZ04_or", !isTold);
 }
 
-void changeSubAreaCount(NoticeForm& form, std::string_view control) {
+void changeSubAreaCount(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   if (!isAcceptable(screen, control)) return;
   const bool isEmpty = screen.isEmpty(control);
@@ -42,21 +42,21 @@ void changeSubAreaCount(NoticeForm& form, std::string_view control) {
   if (!isEmpty) noteBlank(form, false);
 }
 
-void leaveSubAreaCount(NoticeForm& form, std::string_view control) {
+void leaveSubAreaCount(NoticeForm& form, ControlName control) {
   changeSubAreaCount(form, control);
   if (form.screen.isEmpty(control)) return;
   form.screen.setText("Txt_LMZ04_contour_id", "");
   form.screen.setFocus("Txt_LMZ04_contour_id");
 }
 
-void chooseGeoArea(NoticeForm& form, std::string_view control) {
+void chooseGeoArea(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   const bool isEmpty = screen.isEmpty(control);
   showOtherWay(screen, !isEmpty, kWholeCountry, kSubAreas, !screen.isEmpty("Txt_LMZ04_nb_sub_areas"));
   if (!isEmpty) noteBlank(form, false);
 }
 
-void changeContourId(NoticeForm& form, std::string_view control) {
+void changeContourId(NoticeForm& form, ControlName control) {
   const Screen& screen = form.screen;
   if (screen.isEmpty(control) || !isAcceptable(screen, control)) return;
   form.screen.setEnabled("Button_Add_Contour", true);
@@ -69,7 +69,7 @@ bool listsContour(const Screen& screen, double contour) {
                      [contour](const std::string& item) { return leadingNumber(item) == contour; });
 }
 
-void addContour(NoticeForm& form, std::string_view /*button*/) {
+void addContour(NoticeForm& form, ControlName /*button*/) {
   Screen& screen = form.screen;
   const Host& host = form.work.host;
   if (screen.isEmpty("Txt_LMZ04_contour_id")) return host.showBox({kNoContourId.filled({}), ""});
@@ -86,27 +86,27 @@ void addContour(NoticeForm& form, std::string_view /*button*/) {
   screen.setText("Txt_LMZ04_contour_id", "");
 }
 
-void pickContour(NoticeForm& form, std::string_view control) {
+void pickContour(NoticeForm& form, ControlName control) {
   if (form.screen.at(control).index < 0) return;
   form.selectedContourIdx = form.screen.at(control).index;
   form.screen.setEnabled("Button_Clear_Contour", true);
 }
 
-void clearContour(NoticeForm& form, std::string_view button) {
+void clearContour(NoticeForm& form, ControlName button) {
   form.screen.removeItem("ListBoxContourID", form.selectedContourIdx);
   form.selectedContourIdx = -1;
   form.screen.setEnabled(button, false);
 }
 
-void chooseIntent(NoticeForm& form, std::string_view /*control*/) {
+void chooseIntent(NoticeForm& form, ControlName /*control*/) {
   applyIntentRule(form.screen);
 }
 
-void choosePlanEntry(NoticeForm& form, std::string_view /*control*/) {
+void choosePlanEntry(NoticeForm& form, ControlName /*control*/) {
   applyPlanEntryRule(form.screen);
 }
 
-void chooseSomething(NoticeForm& form, std::string_view control) {
+void chooseSomething(NoticeForm& form, ControlName control) {
   if (!form.screen.isEmpty(control)) noteBlank(form, false);
 }
 
@@ -126,12 +126,14 @@ constexpr EventRow kEvents[] = {
     {kBoth, Event::click,  "ListBoxContourID",       pickContour},
     {kBoth, Event::click,  "Button_Clear_Contour",   clearContour},
 };
+static_assert(areOnTheirForms(kEvents, &EventRow::control));
 
 constexpr LeaveRow kLeaves[] = {
     {kBoth, "Txt_LMZ04_nb_sub_areas", leaveSubAreaCount},
     {kBoth, "Combo_LMZ04_geo_area",   chooseGeoArea},
     {kBoth, "Txt_LMZ04_contour_id",   changeContourId},
 };
+static_assert(areOnTheirForms(kLeaves, &LeaveRow::control));
 // clang-format on
 
 }  // namespace

@@ -12,50 +12,50 @@
 namespace zamo {
 namespace {
 
-constexpr std::string_view kTargetNumbers[] = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
-                                               "Txt_trg_long_SS",    "Txt_trg_lat_DD",  "Txt_trg_lat_MM",
-                                               "Txt_trg_lat_SS"};
-constexpr std::string_view kTargetLetters[] = {"Txt_trg_long_EW", "Txt_trg_lat_NS"};
-constexpr std::string_view kTargetIdentifier[] = {"Txt_TrgAdmRefID"};
+constexpr ControlName kTargetNumbers[] = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
+                                          "Txt_trg_long_SS",    "Txt_trg_lat_DD",  "Txt_trg_lat_MM",
+                                          "Txt_trg_lat_SS"};
+constexpr ControlName kTargetLetters[] = {"Txt_trg_long_EW", "Txt_trg_lat_NS"};
+constexpr ControlName kTargetIdentifier[] = {"Txt_TrgAdmRefID"};
 
-void chooseArticle(NoticeForm& form, std::string_view /*control*/) {
+void chooseArticle(NoticeForm& form, ControlName /*control*/) {
   applyArticleRule(form.screen);
 }
 
-void chooseIntent(NoticeForm& form, std::string_view /*control*/) {
+void chooseIntent(NoticeForm& form, ControlName /*control*/) {
   applyIntentRule(form.screen);
   applyAntennaRule(form.screen);
   applyArticleRule(form.screen);
 }
 
-void chooseAntenna(NoticeForm& form, std::string_view /*control*/) {
+void chooseAntenna(NoticeForm& form, ControlName /*control*/) {
   applyAntennaRule(form.screen);
   noteBlank(form, false);
 }
 
-void choosePlanEntry(NoticeForm& form, std::string_view /*control*/) {
+void choosePlanEntry(NoticeForm& form, ControlName /*control*/) {
   applyPlanEntryRule(form.screen);
   noteBlank(form, false);
 }
 
-void choosePlanning(NoticeForm& form, std::string_view /*control*/) {
+void choosePlanning(NoticeForm& form, ControlName /*control*/) {
   applyPlanningRule(form.screen);
   noteBlank(form, false);
 }
 
-void chooseOrEmpty(NoticeForm& form, std::string_view control) {
+void chooseOrEmpty(NoticeForm& form, ControlName control) {
   noteBlank(form, form.screen.isEmpty(control));
 }
 
 // What is stored stays to be seen, even if it names the target twice.
 template <std::size_t Count>
-void show(Screen& screen, const std::string_view (&controls)[Count], bool visible) {
-  for (const std::string_view control : controls) {
+void show(Screen& screen, const ControlName (&controls)[Count], bool visible) {
+  for (const ControlName control : controls) {
     screen.setVisible(control, visible || (screen.filling && !screen.isEmpty(control)));
   }
 }
 
-void changeTargetIdentifier(NoticeForm& form, std::string_view control) {
+void changeTargetIdentifier(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   const bool isEmpty = screen.isEmpty(control);
   show(screen, kTargetNumbers, isEmpty);
@@ -63,10 +63,10 @@ void changeTargetIdentifier(NoticeForm& form, std::string_view control) {
   screen.setVisible("Lbl_trg_or", isEmpty);
 }
 
-void changeTargetNumber(NoticeForm& form, std::string_view /*control*/) {
+void changeTargetNumber(NoticeForm& form, ControlName /*control*/) {
   Screen& screen = form.screen;
   const bool allEmpty = std::all_of(std::begin(kTargetNumbers), std::end(kTargetNumbers),
-                                    [&screen](std::string_view control) { return screen.isEmpty(control); });
+                                    [&screen](ControlName control) { return screen.isEmpty(control); });
   show(screen, kTargetIdentifier, allEmpty);
   screen.setVisible("Lbl_TrgAdmRefID", screen.isVisible("Txt_TrgAdmRefID"));
   screen.setVisible("Lbl_trg_or", allEmpty);
@@ -75,12 +75,12 @@ void changeTargetNumber(NoticeForm& form, std::string_view /*control*/) {
   show(screen, kTargetLetters, true);
 }
 
-void fillRange(NoticeForm& form, std::string_view boxes, FillGrid grid, int hgtMax) {
+void fillRange(NoticeForm& form, ControlStem boxes, FillGrid grid, int hgtMax) {
   const AzimuthFill fill = form.work.dialogs.FillRangeFrm(grid, hgtMax);
   for (int azimuth = fill.from; azimuth <= fill.to; azimuth += 10) {
     const std::string box = azimuthBox(boxes, azimuth);
-    if (!form.screen.has(box)) continue;
-    form.screen.setText(box, fill.value);
+    if (!form.screen.has(madeName(box))) continue;
+    form.screen.setText(madeName(box), fill.value);
     noteBlank(form, false);
   }
 }
@@ -92,15 +92,15 @@ int readHgtMax(const Screen& screen) {
   return static_cast<int>(std::clamp<double>(height, Limits16::min(), Limits16::max()));
 }
 
-void fillEffectiveHeights(NoticeForm& form, std::string_view /*control*/) {
+void fillEffectiveHeights(NoticeForm& form, ControlName /*control*/) {
   fillRange(form, "Txt_9EC_azm", FillGrid::effectiveHeight, readHgtMax(form.screen));
 }
 
-void fillHorizontal(NoticeForm& form, std::string_view /*control*/) {
+void fillHorizontal(NoticeForm& form, ControlName /*control*/) {
   fillRange(form, "Txt_9NHAzm", FillGrid::attenuation, 0);
 }
 
-void fillVertical(NoticeForm& form, std::string_view /*control*/) {
+void fillVertical(NoticeForm& form, ControlName /*control*/) {
   fillRange(form, "Txt_9NVAzm", FillGrid::attenuation, 0);
 }
 
@@ -134,6 +134,7 @@ constexpr EventRow kEvents[] = {
     {kBoth,       Event::click,  "Button_Fill9NH",        fillHorizontal},
     {kBoth,       Event::click,  "Button_Fill9NV",        fillVertical},
 };
+static_assert(areOnTheirForms(kEvents, &EventRow::control));
 // clang-format on
 
 }  // namespace

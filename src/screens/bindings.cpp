@@ -44,7 +44,7 @@ constexpr Binding kBindings[] = {
     // stage                 forms         control                        field                                            conversion    needs     marks
     {Stage::common,           kBoth,        "Combo_B_Adm",                 own<&NtcRec::t_adm>,                            comboTrimmed},
     {Stage::common,           kBoth,        "Combo_4B_Ctry",               own<&NtcRec::t_ctry>,                           comboTrimmed},
-    {Stage::common,           kBoth,        "Txt_Exp_",                    own<&NtcRec::t_d_expiry>,                       date},
+    {Stage::common,           kBoth,        "Txt_Exp_DD",                    own<&NtcRec::t_d_expiry>,                       date},
     {Stage::common,           kBoth,        "Txt_AdmRefID",                own<&NtcRec::t_adm_ref_id>},
     {Stage::common,           kBoth,        "Combo_9D_Polariz",            own<&NtcRec::t_polar>,                          combo},
     {Stage::common,           kBoth,        "Txt_KV19_Offset",             own<&NtcRec::t_offset>},
@@ -86,7 +86,7 @@ constexpr Binding kBindings[] = {
     {Stage::station,          kAssignments, "Combo_KV19_assgnCde",         own<&NtcRec::t_assgn_code>,                     combo},
     {Stage::station,          kAssignments, "Txt_LMZ04_AdmAllotID",        digital<&DigitalRec::t_associated_adm_allot_id>, plain,        kDigital, kDigital},
     {Stage::station,          kAssignments, "Txt_KV19_assoc_allot_sfnID",  digital<&DigitalRec::t_associated_allot_sfn_id>, plain,        kDigital, kDigital},
-    {Stage::station,          kAssignments, "Txt_InUse_",                  own<&NtcRec::t_d_inuse>,                        date},
+    {Stage::station,          kAssignments, "Txt_InUse_DD",                  own<&NtcRec::t_d_inuse>,                        date},
     {Stage::station,          kAssignments, "Txt_3A1_CallSign",            own<&NtcRec::t_call_sign>},
     {Stage::station,          kAssignments, "Txt_12A_OpAgcy",              own<&NtcRec::t_op_agcy>},
     {Stage::station,          kAssignments, "Txt_12B_AddrCde",             own<&NtcRec::t_addr_code>},
@@ -125,7 +125,7 @@ constexpr Binding kBindings[] = {
     {Stage::tb,               kTbForms,     "Txt_EmailAddr",               digital<&DigitalRec::t_email_addr>,              plain,        kAlways,  kDigital},
     {Stage::tb,               kTbForms,     "Txt_notified_Rmks",           own<&NtcRec::t_remarks>},
     {Stage::tb,               kTB2Only,     "Txt_PlanAdmRefID",            own<&NtcRec::t_plan_adm_ref_id>},
-    {Stage::tb,               kTB2Only,     "Txt_InUse_",                  own<&NtcRec::t_d_inuse>,                        date},
+    {Stage::tb,               kTB2Only,     "Txt_InUse_DD",                  own<&NtcRec::t_d_inuse>,                        date},
     {Stage::tb,               kTB2Only,     "Txt_12A_OpAgcy",              own<&NtcRec::t_op_agcy>},
     {Stage::tb,               kTB2Only,     "Txt_12B_AddrCde",             own<&NtcRec::t_addr_code>},
     {Stage::tb,               kTB2Only,     "Txt_10B_Ophhfr",              hours<&OpHoursRec::t_op_hh_fr>,                  plain,        kHours,   kHours},
@@ -157,6 +157,7 @@ constexpr bool isSound() {
   }
   return true;
 }
+static_assert(areOnTheirForms(kBindings, &Binding::control));
 static_assert(isSound(), "a control carries one field of a form, and the stages follow each other");
 
 bool isPresent(const NtcRec& ntc, Group group) {
@@ -181,19 +182,20 @@ void setPresent(NtcRec& ntc, Group group) {
   if (group == Group::contour) ntc.digital.contour.present = true;
 }
 
-void showDate(Screen& screen, std::string_view control, std::string_view value) {
+void showDate(Screen& screen, ControlName control, std::string_view value) {
   DateBoxes parts;
   splitDate(normalizeDate(value), parts.day, parts.month, parts.year);
   if (parts.year.empty()) return;  // no date
   const DateBoxes boxes = dateBoxes(control);
-  screen.setText(boxes.year, numberText(leadingNumber(parts.year)));
-  screen.setText(boxes.month, numberText(leadingNumber(parts.month)));
-  screen.setText(boxes.day, numberText(leadingNumber(parts.day)));
+  screen.setText(madeName(boxes.year), numberText(leadingNumber(parts.year)));
+  screen.setText(madeName(boxes.month), numberText(leadingNumber(parts.month)));
+  screen.setText(madeName(boxes.day), numberText(leadingNumber(parts.day)));
 }
 
-std::string dateOn(const Screen& screen, std::string_view control) {
+std::string dateOn(const Screen& screen, ControlName control) {
   const DateBoxes boxes = dateBoxes(control);
-  return makeDateText(screen.text(boxes.year), screen.text(boxes.month), screen.text(boxes.day));
+  return makeDateText(screen.text(madeName(boxes.year)), screen.text(madeName(boxes.month)),
+                      screen.text(madeName(boxes.day)));
 }
 
 void show(Screen& screen, const Binding& one, const std::string& value) {
@@ -259,8 +261,9 @@ std::span<const Binding> bindingsOf(Stage stage) {
   return {first, std::upper_bound(first, std::end(kBindings), stage, isBehind)};
 }
 
-DateBoxes dateBoxes(std::string_view control) {
-  const std::string stem(control);
+DateBoxes dateBoxes(ControlName box) {
+  std::string stem(box);
+  stem.resize(stem.size() - 2);
   return {stem + "DD", stem + "MM", stem + "YY"};
 }
 

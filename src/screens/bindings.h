@@ -41,7 +41,7 @@ enum class Stage : std::uint8_t {
 struct Binding {
   Stage stage = Stage::common;
   FormSet forms = 0;
-  std::string_view control;  // of a date: what the names of its boxes begin with
+  ControlName control;  // of a date: the box of its day
   TextMember field;
   Conversion conversion = Conversion::plain;
   Group needs = Group::main;  // shown only when this group is present
@@ -53,13 +53,13 @@ struct Binding {
 std::span<const Binding> bindings();
 std::span<const Binding> bindingsOf(Stage stage);
 
-// The boxes of a date.
+// The names of the three boxes of the date to which a box belongs.
 struct DateBoxes {
   std::string day;
   std::string month;
   std::string year;
 };
-DateBoxes dateBoxes(std::string_view control);
+DateBoxes dateBoxes(ControlName box);
 
 // The rows of a stage that the form has. An empty field leaves its control as it is, and an empty control its
 // field.

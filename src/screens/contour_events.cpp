@@ -23,7 +23,7 @@ const Message kPointRepeated("box: a test point stands in the list already", "Th
 
 // The boxes of a test point, each with its width and its first place in an item of the list.
 struct PointBox {
-  std::string_view name;
+  ControlName name;
   std::size_t first;
   std::size_t width;
 };
@@ -40,9 +40,9 @@ constexpr std::array<PointBox, 8> kPointBoxes = {{
 }};
 // clang-format on
 
-constexpr std::string_view kList = "ListBox_LMZ04_Coordinates";
-constexpr std::string_view kCount = "Txt_LMZ04_nb_test_pts";
-constexpr std::string_view kCountDown = "Txt_CountDownTP";
+constexpr ControlName kList = "ListBox_LMZ04_Coordinates";
+constexpr ControlName kCount = "Txt_LMZ04_nb_test_pts";
+constexpr ControlName kCountDown = "Txt_CountDownTP";
 
 int pointsListed(const Screen& screen) {
   return static_cast<int>(screen.items(kList).size());
@@ -58,14 +58,14 @@ bool allBoxesFilled(const Screen& screen) {
                       [&screen](const PointBox& box) { return screen.isEmpty(box.name); });
 }
 
-void changeCount(NoticeForm& form, std::string_view control) {
+void changeCount(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   countDown(screen);
   // An empty box is on its way to another number, and the points stay.
   if (!screen.isEmpty(control) && isAcceptable(screen, control)) lockTestPoints(screen, false);
 }
 
-void leaveCount(NoticeForm& form, std::string_view control) {
+void leaveCount(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   const bool isEmpty = screen.isEmpty(control);
   lockTestPoints(screen, isEmpty);
@@ -76,7 +76,7 @@ void leaveCount(NoticeForm& form, std::string_view control) {
   screen.setFocus("Txt_LMZ04_Deg_Long");
 }
 
-void changeCoordinate(NoticeForm& form, std::string_view control) {
+void changeCoordinate(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   const bool complete = allBoxesFilled(screen) && isAcceptable(screen, control);
   screen.setEnabled("Button_Add_Coordinates", complete);
@@ -85,11 +85,11 @@ void changeCoordinate(NoticeForm& form, std::string_view control) {
   screen.setEnabled("Button_Upd_Coordinates", true);
 }
 
-void clearCoordinates(NoticeForm& form, std::string_view /*button*/) {
+void clearCoordinates(NoticeForm& form, ControlName /*button*/) {
   Screen& screen = form.screen;
   for (const PointBox& box : kPointBoxes) screen.setText(box.name, "");
-  for (const std::string_view button : {"Button_Add_Coordinates", "Button_Del_Coordinates",
-                                        "Button_Upd_Coordinates", "Button_Ins_Coordinates"}) {
+  for (const ControlName button : ControlNames{"Button_Add_Coordinates", "Button_Del_Coordinates",
+                                               "Button_Upd_Coordinates", "Button_Ins_Coordinates"}) {
     screen.setEnabled(button, false);
   }
 }
@@ -186,7 +186,7 @@ bool enterPoint(NoticeForm& form) {
 }
 
 template <PointEditMode mode>
-void enterPointAs(NoticeForm& form, std::string_view /*button*/) {
+void enterPointAs(NoticeForm& form, ControlName /*button*/) {
   form.pointEditMode = mode;
   const bool isEntered = enterPoint(form);
   form.pointEditMode = kAddPoint;
@@ -194,7 +194,7 @@ void enterPointAs(NoticeForm& form, std::string_view /*button*/) {
   if (isEntered && mode == kAddPoint) form.screen.setFocus(kPointBoxes[0].name);
 }
 
-void pickPoint(NoticeForm& form, std::string_view control) {
+void pickPoint(NoticeForm& form, ControlName control) {
   Screen& screen = form.screen;
   const int index = screen.at(control).index;
   if (index < 0) return;
@@ -202,13 +202,13 @@ void pickPoint(NoticeForm& form, std::string_view control) {
   const std::string item = screen.items(control)[static_cast<std::size_t>(index)];
   for (const PointBox& box : kPointBoxes)
     screen.setText(box.name, characters(item, box.first, box.first + box.width - 1));
-  for (const std::string_view button :
-       {"Button_Del_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"}) {
+  for (const ControlName button :
+       ControlNames{"Button_Del_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"}) {
     screen.setEnabled(button, true);
   }
 }
 
-void deletePoint(NoticeForm& form, std::string_view button) {
+void deletePoint(NoticeForm& form, ControlName button) {
   Screen& screen = form.screen;
   screen.removeItem(kList, form.selectedPointIdx);
   countDown(screen);
@@ -216,7 +216,7 @@ void deletePoint(NoticeForm& form, std::string_view button) {
   screen.setEnabled("Button_View", pointsListed(screen) > 0);
 }
 
-void clearAllPoints(NoticeForm& form, std::string_view button) {
+void clearAllPoints(NoticeForm& form, ControlName button) {
   Screen& screen = form.screen;
   screen.clearItems(kList);
   screen.setText(kCountDown, screen.text(kCount));
@@ -224,7 +224,7 @@ void clearAllPoints(NoticeForm& form, std::string_view button) {
   screen.setEnabled("Button_View", false);
 }
 
-void viewContour(NoticeForm& form, std::string_view /*button*/) {
+void viewContour(NoticeForm& form, ControlName /*button*/) {
   NtcRec ntc;
   readContourFromScreen(ntc, form.screen, form.work.host);
   form.work.dialogs.ContourDetailFrm(ntc);
@@ -250,6 +250,7 @@ constexpr EventRow kEvents[] = {
     {kContourForm, Event::click,  "Button_ClearAll_Coordinates", clearAllPoints},
     {kContourForm, Event::click,  "Button_View",                 viewContour},
 };
+static_assert(areOnTheirForms(kEvents, &EventRow::control));
 
 constexpr LeaveRow kLeaves[] = {
     {kContourForm, kCount,              leaveCount},
@@ -262,6 +263,7 @@ constexpr LeaveRow kLeaves[] = {
     {kContourForm, kPointBoxes[6].name, changeCoordinate},
     {kContourForm, kPointBoxes[7].name, changeCoordinate},
 };
+static_assert(areOnTheirForms(kLeaves, &LeaveRow::control));
 // clang-format on
 
 }  // namespace

@@ -5,27 +5,20 @@
 #include <set>
 #include <utility>
 
-#include "screens/control_table_allotments.h"
-#include "screens/control_table_assignments.h"
-#include "screens/control_table_common.h"
-#include "screens/control_table_contour.h"
-#include "screens/control_table_tb.h"
+#include "screens/control_specs.h"
 
 namespace zamo {
 
 namespace {
 
-using ControlSpecs = std::span<const ControlSpec>;
-
-// In the order in which the forms are read.
-constexpr ControlSpecs kControlTables[] = {
-    kFirstControls, kAssignmentControls, kAllotmentControls, kContourControls,
-    kPlanControls,  kLastControls,       kTbControls,
-};
+constexpr bool isField(ControlKind kind) {
+  return kind == ControlKind::text || kind == ControlKind::memo || kind == ControlKind::combo ||
+         kind == ControlKind::list;
+}
 
 template <typename Test>
 constexpr bool everySpec(Test test) {
-  for (const ControlSpecs table : kControlTables) {
+  for (const auto& table : kControlTables) {
     for (const ControlSpec& spec : table) {
       if (!test(spec)) return false;
     }
@@ -66,6 +59,9 @@ constexpr bool hasItsFrame(const ControlSpec& spec) {
 static_assert(everySpec(isNamedOnce));
 static_assert(everySpec(hasItsFrame));
 static_assert(everySpec([](const ControlSpec& spec) { return spec.forms != 0 && !spec.name.empty(); }));
+static_assert(everySpec([](const ControlSpec& spec) {
+  return isField(spec.kind) ? spec.caption.empty() == spec.label.empty() : spec.label.empty();
+}));
 
 // Keeps a made-up text as long as the program runs, for the rows hold no text of their own.
 std::string_view kept(std::string text) {
@@ -73,39 +69,27 @@ std::string_view kept(std::string text) {
   return *texts.insert(std::move(text)).first;
 }
 
-bool isField(ControlKind kind) {
-  return kind == ControlKind::text || kind == ControlKind::memo || kind == ControlKind::combo ||
-         kind == ControlKind::list;
-}
-
-std::string labelName(std::string_view field) {
-  return "Lbl_" + std::string(field.substr(field.find('_') + 1));
-}
-
 std::string azimuthText(int azimuth) {
   std::string digits = std::to_string(azimuth);
   return std::string(3 - std::min<std::size_t>(digits.size(), 3), '0') + digits;
 }
 
-// A field between the labels that it has.
+// A field behind its label.
 void appendField(std::vector<ControlRow>& rows, const ControlSpec& spec) {
-  const std::string_view label = spec.label.empty() ? kept(labelName(spec.name)) : spec.label;
   if (!spec.caption.empty()) {
-    rows.push_back({spec.forms, label, ControlKind::label, spec.frame, spec.caption, spec.tip});
+    rows.push_back({spec.forms, spec.label, ControlKind::label, spec.frame, spec.caption, spec.tip});
   }
   rows.push_back({spec.forms, spec.name, spec.kind, spec.frame, "", spec.tip, spec.items, spec.upperCase});
-  if (!spec.unit.empty()) {
-    const std::string_view unit = kept(std::string(label) + "_Unit");
-    rows.push_back({spec.forms, unit, ControlKind::label, spec.frame, spec.unit, ""});
-  }
 }
 
 void appendGrid(std::vector<ControlRow>& rows, const ControlSpec& frame) {
   const auto* grid = std::ranges::find(kAzimuthGrids, frame.name, &GridSpec::frame);
   if (grid == std::end(kAzimuthGrids)) return;
   for (int azimuth = 0; azimuth < 360; azimuth += 10) {
-    const std::string_view box = kept(azimuthBox(grid->grid, azimuth));
-    appendField(rows, {frame.forms, ControlKind::text, box, frame.name, kept(azimuthText(azimuth)), ""});
+    const std::string_view box = kept(azimuthBox(boxesOf(*grid), azimuth));
+    const std::string_view label = kept(azimuthBox(labelsOf(*grid), azimuth));
+    appendField(rows,
+                {frame.forms, ControlKind::text, box, label, frame.name, kept(azimuthText(azimuth)), ""});
   }
 }
 
@@ -131,7 +115,7 @@ Control controlOf(const ControlRow& row) {
 
 std::vector<ControlRow> controlRows(FormCode code) {
   std::vector<ControlRow> rows;
-  for (const ControlSpecs table : kControlTables) {
+  for (const auto& table : kControlTables) {
     for (const ControlSpec& spec : table) {
       if (isOneOf(code, spec.forms)) appendControl(rows, spec);
     }
@@ -143,8 +127,8 @@ void makeControls(Screen& screen) {
   for (const ControlRow& row : controlRows(screen.code())) screen.add(controlOf(row));
 }
 
-std::string azimuthBox(std::string_view grid, int azimuth) {
-  return std::string(grid) + azimuthText(azimuth);
+std::string azimuthBox(ControlStem grid, int azimuth) {
+  return std::string(std::string_view(grid)) + azimuthText(azimuth);
 }
 
 }  // namespace zamo

@@ -29,7 +29,8 @@ std::vector<ControlRow> controlRows(FormCode code);
 // set, and combos show their first, empty item.
 void makeControls(Screen& screen);
 
-// Azimuth boxes of a grid, "Txt_9EC_azm", "Txt_9NHAzm" or "Txt_9NVAzm": azimuth in degrees, in steps of 10.
-std::string azimuthBox(std::string_view grid, int azimuth);
+// The name of an azimuth's box or label in a grid: what the names begin with, and the azimuth in degrees, in
+// steps of 10.
+std::string azimuthBox(ControlStem grid, int azimuth);
 
 }  // namespace zamo

@@ -9,14 +9,14 @@ namespace {
 
 constexpr FormSet kForms = kAssignmentForms | kAllotmentForms | formBit(kTB3);
 
-void pickAvailable(NoticeForm& form, std::string_view list) {
+void pickAvailable(NoticeForm& form, ControlName list) {
   const Control& available = form.screen.at(list);
   if (available.index < 0) return;
   form.pickedAdm = available.items[static_cast<std::size_t>(available.index)];
   form.screen.setEnabled("Button_Coord_Add", true);
 }
 
-void addPicked(NoticeForm& form, std::string_view /*control*/) {
+void addPicked(NoticeForm& form, ControlName /*control*/) {
   Screen& screen = form.screen;
   const std::vector<std::string>& selected = screen.items("ListAdmSel");
   if (std::find(selected.begin(), selected.end(), form.pickedAdm) == selected.end()) {
@@ -29,14 +29,14 @@ void addPicked(NoticeForm& form, std::string_view /*control*/) {
 }
 
 // With the empty row: nothing behind the form takes it for an administration.
-void addAll(NoticeForm& form, std::string_view /*control*/) {
+void addAll(NoticeForm& form, ControlName /*control*/) {
   form.screen.setItems("ListAdmSel", form.screen.items("ListAdmAvail"));
   form.screen.setEnabled("Button_Coord_Clear", true);
   // None of the rows is chosen.
   form.screen.setEnabled("Button_Coord_Del", false);
 }
 
-void pickSelected(NoticeForm& form, std::string_view list) {
+void pickSelected(NoticeForm& form, ControlName list) {
   const int index = form.screen.at(list).index;
   if (index < 0) return;
   form.selectedAdmIdx = index;
@@ -48,7 +48,7 @@ void disableRemoval(Screen& screen) {
   screen.setEnabled("Button_Coord_Clear", false);
 }
 
-void removeSelected(NoticeForm& form, std::string_view /*control*/) {
+void removeSelected(NoticeForm& form, ControlName /*control*/) {
   Screen& screen = form.screen;
   screen.removeItem("ListAdmSel", form.selectedAdmIdx);
   const int left = static_cast<int>(screen.items("ListAdmSel").size());
@@ -58,7 +58,7 @@ void removeSelected(NoticeForm& form, std::string_view /*control*/) {
   screen.setFocus("ListAdmSel");
 }
 
-void removeAll(NoticeForm& form, std::string_view /*control*/) {
+void removeAll(NoticeForm& form, ControlName /*control*/) {
   form.screen.clearItems("ListAdmSel");
   disableRemoval(form.screen);
 }
@@ -73,6 +73,7 @@ constexpr EventRow kEvents[] = {
     {kForms, Event::click,       "Button_Coord_Del",    removeSelected},
     {kForms, Event::click,       "Button_Coord_Clear",  removeAll},
 };
+static_assert(areOnTheirForms(kEvents, &EventRow::control));
 // clang-format on
 
 }  // namespace

@@ -28,7 +28,7 @@ enum class FieldTest : std::uint8_t {
 // The checks of a field run in the order of the table, and the first that refuses ends them.
 struct FieldCheck {
   FormSet forms = 0;
-  std::string_view control;  // or what the names of a group of boxes begin with
+  ControlStem control;  // whole, or what the names of a group of boxes begin with
   bool isGroup = false;
   FieldTest test = FieldTest::number;
   Limits limits;
@@ -40,7 +40,7 @@ struct FieldCheck {
 // Any value is as good as another.
 struct UncheckedField {
   FormSet forms = 0;
-  std::string_view control;
+  ControlName control;
 };
 
 inline constexpr bool kBox = false;
@@ -132,10 +132,13 @@ inline constexpr UncheckedField kUncheckedFields[] = {
     {kAllot,          "Txt_LMZ04_allot_name"},
     {kTB2Only,        "Txt_12A_OpAgcy"},
 };
+static_assert(areOnTheirForms(kUncheckedFields, &UncheckedField::control));
 // clang-format on
 
 static_assert(std::all_of(std::begin(kFieldChecks), std::end(kFieldChecks), [](const FieldCheck& check) {
-  return check.forms != 0 && check.title.starts_with("Prevalidation Error - ") && !check.message.empty();
+  return check.forms != 0 && check.title.starts_with("Prevalidation Error - ") && !check.message.empty() &&
+         check.isGroup != control_names::isControl(check.control) &&
+         (check.isGroup || (check.forms & ~control_names::formsWith(check.control)) == 0);
 }));
 
 }  // namespace zamo

@@ -9,6 +9,7 @@
 #include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
+#include "screens/bindings.h"
 #include "screens/field_check_tables.h"
 #include "screens/form_events.h"
 
@@ -21,17 +22,17 @@ const TableMessages kRefusals(
     kFieldChecks);
 
 // The day, month and year boxes of the date to which the box belongs.
-bool isCalendarDate(const Screen& screen, std::string_view box) {
-  const std::string date(box.substr(0, box.size() - 2));
-  const std::string& day = screen.text(date + "DD");
-  const std::string& month = screen.text(date + "MM");
-  const std::string& year = screen.text(date + "YY");
+bool isCalendarDate(const Screen& screen, ControlName box) {
+  const DateBoxes boxes = dateBoxes(box);
+  const std::string& day = screen.text(madeName(boxes.day));
+  const std::string& month = screen.text(madeName(boxes.month));
+  const std::string& year = screen.text(madeName(boxes.year));
   if (day.empty() || month.empty() || year.empty()) return true;
   return parseDate(day + "/" + month + "/" + year).has_value();
 }
 
 // `detail` gets what a time has to tell besides its message.
-bool fits(const FieldCheck& check, const Screen& screen, std::string_view control, std::string& detail) {
+bool fits(const FieldCheck& check, const Screen& screen, ControlName control, std::string& detail) {
   const std::string& text = screen.text(control);
   switch (check.test) {
     case FieldTest::number:
@@ -58,13 +59,13 @@ bool fits(const FieldCheck& check, const Screen& screen, std::string_view contro
   return true;
 }
 
-bool isMeant(const FieldCheck& check, FormCode code, std::string_view control) {
+bool isMeant(const FieldCheck& check, FormCode code, ControlName control) {
   if (!isOneOf(code, check.forms)) return false;
-  return check.isGroup ? control.starts_with(check.control) : control == check.control;
+  return check.isGroup ? check.control.begins(control) : control == madeName(check.control);
 }
 
 // Whether leaving the field says anything about its value.
-bool isJudged(FormCode code, std::string_view control) {
+bool isJudged(FormCode code, ControlName control) {
   return std::any_of(std::begin(kFieldChecks), std::end(kFieldChecks),
                      [&](const FieldCheck& check) { return isMeant(check, code, control); }) ||
          std::any_of(
@@ -73,7 +74,7 @@ bool isJudged(FormCode code, std::string_view control) {
 }
 
 // The check that refuses the value that stands in the field; none for an empty field.
-const FieldCheck* findRefusal(const Screen& screen, std::string_view control, std::string& detail) {
+const FieldCheck* findRefusal(const Screen& screen, ControlName control, std::string& detail) {
   for (const FieldCheck& check : kFieldChecks) {
     if (!isMeant(check, screen.code(), control) || screen.isEmpty(control)) continue;
     if (!fits(check, screen, control, detail)) return &check;
@@ -86,14 +87,14 @@ void tellRefusal(const Host& host, const FieldCheck& check, const std::string& d
   host.showBox({detail + std::string(check.message), std::string(check.title), BoxIcon::exclamation});
 }
 
-void takeValue(NoticeForm& form, std::string_view control) {
+void takeValue(NoticeForm& form, ControlName control) {
   form.work.state.screenIsBlank = false;
   if (control == "Txt_12A_OpAgcy") form.screen.setText(control, padTo3(form.screen.text(control)));
 }
 
 }  // namespace
 
-bool mayLeaveField(NoticeForm& form, std::string_view control) {
+bool mayLeaveField(NoticeForm& form, ControlName control) {
   std::string detail;
   if (const FieldCheck* const refusal = findRefusal(form.screen, control, detail)) {
     tellRefusal(form.work.host, *refusal, detail);
@@ -104,7 +105,7 @@ bool mayLeaveField(NoticeForm& form, std::string_view control) {
   return true;
 }
 
-bool isAcceptable(const Screen& screen, std::string_view control) {
+bool isAcceptable(const Screen& screen, ControlName control) {
   std::string detail;
   return findRefusal(screen, control, detail) == nullptr;
 }

@@ -3,7 +3,7 @@
 namespace zamo {
 
 void connectEvents(NoticeForm& form) {
-  form.screen.raised = [&form](Event event, std::string_view control) {
+  form.screen.raised = [&form](Event event, ControlName control) {
     for (const auto& rows : {commonEvents(), assignmentEvents(), coordinationEvents(), allotmentEvents(),
                              contourEvents(), createEvents()}) {
       for (const EventRow& row : rows) {
@@ -15,7 +15,7 @@ void connectEvents(NoticeForm& form) {
   };
 }
 
-void leaveField(NoticeForm& form, std::string_view control) {
+void leaveField(NoticeForm& form, ControlName control) {
   for (const auto& rows : {allotmentLeaves(), contourLeaves(), tbLeaves()}) {
     for (const LeaveRow& row : rows) {
       if (row.control == control && isOneOf(form.screen.code(), row.forms)) row.handle(form, control);

@@ -8,12 +8,12 @@
 
 namespace zamo {
 
-using EventHandler = void (*)(NoticeForm& form, std::string_view control);
+using EventHandler = void (*)(NoticeForm& form, ControlName control);
 
 struct EventRow {
   FormSet forms = 0;
   Event event = Event::click;
-  std::string_view control;
+  ControlName control;
   EventHandler handle = nullptr;
 };
 
@@ -31,7 +31,7 @@ void connectEvents(NoticeForm& form);
 // What leaving a field does besides its check, when the value was accepted or the field is empty.
 struct LeaveRow {
   FormSet forms = 0;
-  std::string_view control;
+  ControlName control;
   EventHandler handle = nullptr;
 };
 std::span<const LeaveRow> allotmentLeaves();
@@ -39,6 +39,6 @@ std::span<const LeaveRow> contourLeaves();
 std::span<const LeaveRow> tbLeaves();
 
 // Does what the rows say for a field that is left.
-void leaveField(NoticeForm& form, std::string_view control);
+void leaveField(NoticeForm& form, ControlName control);
 
 }  // namespace zamo

@@ -31,7 +31,7 @@ constexpr int kSlack = 5;  // behind the last character of a box, for the cursor
 constexpr const char* kMnemonic = "mnemonic";
 
 // Boxes that only the program writes.
-constexpr std::string_view kReadOnly[] = {"Txt_Filename", "Txt_Ntc_Number", "Txt_CountDownTP"};
+constexpr ControlName kReadOnly[] = {"Txt_Filename", "Txt_Ntc_Number", "Txt_CountDownTP"};
 
 QString nameOf(std::string_view name) {
   return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
@@ -41,7 +41,7 @@ QString nameOf(std::string_view name) {
 
 QLineEdit* makeTextBox(const Control& control) {
   auto* const box = new QLineEdit;
-  const FieldLook look = lookOf(control.name);
+  const FieldLook look = lookOf(madeName(control.name));
   const QFontMetrics metrics = box->fontMetrics();
   const QString hint = fromText(look.hint);
   box->setPlaceholderText(hint);
@@ -54,7 +54,7 @@ QLineEdit* makeTextBox(const Control& control) {
   if (look.width == FieldWidth::fixed) box->setMaximumWidth(text + around);
   box->setSizePolicy(look.width == FieldWidth::grows ? QSizePolicy::Expanding : QSizePolicy::Fixed,
                      QSizePolicy::Fixed);
-  if (std::find(std::begin(kReadOnly), std::end(kReadOnly), control.name) != std::end(kReadOnly)) {
+  if (std::find(std::begin(kReadOnly), std::end(kReadOnly), madeName(control.name)) != std::end(kReadOnly)) {
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::ClickFocus);
     QPalette palette = box->palette();
@@ -82,7 +82,7 @@ QComboBox* makeCombo(const Control& control) {
   combo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   combo->setMaxVisibleItems(kItemsShown);
   combo->setFocusPolicy(Qt::StrongFocus);
-  if (canBeTypedInto(control.name)) {
+  if (canBeTypedInto(madeName(control.name))) {
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     // What is typed is what is meant.
@@ -119,7 +119,7 @@ QWidget* makePlain(const Control& control) {
     case ControlKind::combo:
       return makeCombo(control);
     case ControlKind::list:
-      return new PickList(lookOf(control.name).characters);
+      return new PickList(lookOf(madeName(control.name)).characters);
     case ControlKind::option:
       return makeOption();
     case ControlKind::button:

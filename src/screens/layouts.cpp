@@ -73,18 +73,8 @@ constexpr FieldLook kLooks[] = {
     {"ListBox_LMZ04_Coordinates", 18, fixed, left, ""},
 };
 
-constexpr std::string_view kTypedCombos[] = {"Combo_4B_Ctry", "Combo_LMZ04_geo_area"};
+constexpr ControlName kTypedCombos[] = {"Combo_4B_Ctry", "Combo_LMZ04_geo_area"};
 
-struct GridRow {
-  std::string_view frame;
-  std::string_view box;
-  std::string_view label;
-};
-constexpr GridRow kGrids[] = {
-    {"Frame_9EC_EffAntHeight", "Txt_9EC_azm", "Lbl_9EC_azm"},
-    {"Frame_9NH_AttnH",        "Txt_9NHAzm",  "Lbl_9NHAzm"},
-    {"Frame_9NV_AttnV",        "Txt_9NVAzm",  "Lbl_9NVAzm"},
-};
 // clang-format on
 
 constexpr int kGridColumns = 4;
@@ -101,11 +91,11 @@ std::vector<std::string> splitNames(std::string_view names) {
   return split;
 }
 
-void appendGrid(std::vector<Cell>& cells, const GridRow& grid) {
+void appendGrid(std::vector<Cell>& cells, const GridSpec& grid) {
   for (int azimuth = 0; azimuth < 360; azimuth += 10) {
     const int place = azimuth / 10;
     Cell cell{grid.frame, place / kGridColumns, place % kGridColumns, {}};
-    cell.controls = {azimuthBox(grid.label, azimuth), azimuthBox(grid.box, azimuth)};
+    cell.controls = {azimuthBox(labelsOf(grid), azimuth), azimuthBox(boxesOf(grid), azimuth)};
     cell.isTight = true;
     cells.push_back(cell);
   }
@@ -114,9 +104,8 @@ void appendGrid(std::vector<Cell>& cells, const GridRow& grid) {
 void appendCell(FormLayout& layout, const CellRow& row) {
   layout.cells.push_back(
       {row.box, row.row, row.column, splitNames(row.controls), row.columnSpan, row.rowSpan});
-  const auto grid = std::find_if(std::begin(kGrids), std::end(kGrids),
-                                 [&row](const GridRow& other) { return other.frame == row.controls; });
-  if (grid != std::end(kGrids)) appendGrid(layout.cells, *grid);
+  const auto* grid = std::ranges::find(kAzimuthGrids, std::string_view(row.controls), &GridSpec::frame);
+  if (grid != std::end(kAzimuthGrids)) appendGrid(layout.cells, *grid);
 }
 
 }  // namespace
@@ -138,14 +127,13 @@ FormLayout layoutOf(FormCode code) {
   return layout;
 }
 
-FieldLook lookOf(std::string_view control) {
-  const auto look = std::find_if(std::begin(kLooks), std::end(kLooks), [control](const FieldLook& row) {
-    return control.starts_with(row.control);
-  });
+FieldLook lookOf(ControlName control) {
+  const auto look = std::find_if(std::begin(kLooks), std::end(kLooks),
+                                 [control](const FieldLook& row) { return row.control.begins(control); });
   return look == std::end(kLooks) ? FieldLook() : *look;
 }
 
-bool canBeTypedInto(std::string_view combo) {
+bool canBeTypedInto(ControlName combo) {
   return std::find(std::begin(kTypedCombos), std::end(kTypedCombos), combo) != std::end(kTypedCombos);
 }
 

@@ -29,13 +29,30 @@ struct BoxRow {
   std::string_view title;  // of a group of our own; without a title it has no border either
 };
 
+// Names of controls with blanks between them. A word that names none doesn't compile.
+class NamesInCell {
+ public:
+  consteval NamesInCell(const char* literal) : names_(literal) {
+    std::string_view rest = names_;
+    while (!rest.empty()) {
+      const std::size_t end = rest.find(' ');
+      if (!control_names::isControl(rest.substr(0, end))) throw "no form has a control of this name";
+      rest = end == std::string_view::npos ? "" : rest.substr(end + 1);
+    }
+  }
+  constexpr operator std::string_view() const { return names_; }
+
+ private:
+  std::string_view names_;
+};
+
 // A cell of a box.
 struct CellRow {
   FormSet forms = 0;
   std::string_view box;
   int row = 0;
   int column = 0;
-  std::string_view controls;  // side by side, with blanks between the names; a box may be one of them
+  NamesInCell controls;  // side by side; a box may be one of them
   int columnSpan = 1;
   int rowSpan = 1;
 };
@@ -45,8 +62,8 @@ enum class FieldSide : std::uint8_t { left, right };  // numbers stand at the ri
 
 // How a text box or a list looks.
 struct FieldLook {
-  std::string_view control;  // or what the names of a group of boxes begin with
-  int characters = 16;       // that it shows at least
+  ControlStem control;
+  int characters = 16;  // that it shows at least
   FieldWidth width = FieldWidth::grows;
   FieldSide side = FieldSide::left;
   std::string_view hint;  // what an empty box shows
@@ -84,16 +101,16 @@ struct FormLayout {
 // The rows of a form, with every box of its azimuth grids. A form without a layout has none.
 FormLayout layoutOf(FormCode code);
 
-FieldLook lookOf(std::string_view control);
+FieldLook lookOf(ControlName control);
 
 // Whether a combo can be typed into. The others are lists to pick from.
-bool canBeTypedInto(std::string_view combo);
+bool canBeTypedInto(ControlName combo);
 
 // What every form has above its pages and below them.
-inline constexpr std::string_view kTopStrip[] = {"Lbl_Filename", "Txt_Filename", "Lbl_Ntc_Number",
-                                                 "Txt_Ntc_Number"};
+inline constexpr ControlName kTopStrip[] = {"Lbl_Filename", "Txt_Filename", "Lbl_Ntc_Number",
+                                            "Txt_Ntc_Number"};
 struct ButtonRow {
-  std::string_view control;
+  ControlName control;
   char mnemonic = 0;  // a letter of the caption
   std::string_view shortcut;
 };

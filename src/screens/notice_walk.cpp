@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "database/read_notice.h"
+#include "model/notice_words.h"
 #include "platform/code_page.h"
 #include "screens/control_table.h"
 #include "screens/form_events.h"
@@ -13,19 +14,19 @@ namespace zamo {
 namespace {
 
 struct TypeRow {
-  std::string_view type;
+  NoticeType type;
   FormCode code;
 };
 
 // The older types, with a D, are the same notices and stay as they are stored.
 // clang-format off
 constexpr TypeRow kTypes[] = {
-    {"GS1", kGS1Assign}, {"DS1", kGS1Assign},
-    {"GT1", kGT1Assign}, {"DT1", kGT1Assign},
-    {"GS2", kGS2Allot},  {"DS2", kGS2Allot},
-    {"GT2", kGT2Allot},  {"DT2", kGT2Allot},
-    {"GA1", kGA1SubAllot}, {"DA1", kGA1SubAllot},
-    {"TB5", kTB5}, {"TB3", kTB3}, {"TB2", kTB2},
+    {types::GS1, kGS1Assign}, {types::DS1, kGS1Assign},
+    {types::GT1, kGT1Assign}, {types::DT1, kGT1Assign},
+    {types::GS2, kGS2Allot},  {types::DS2, kGS2Allot},
+    {types::GT2, kGT2Allot},  {types::DT2, kGT2Allot},
+    {types::GA1, kGA1SubAllot}, {types::DA1, kGA1SubAllot},
+    {types::TB5, kTB5}, {types::TB3, kTB3}, {types::TB2, kTB2},
 };
 
 struct TitleRow {
@@ -100,7 +101,7 @@ class Showing {
 
 FormCode getNtcFormCode(const NtcRec& ntc) {
   for (const TypeRow& row : kTypes) {
-    if (row.type == ntc.t_notice_type) return row.code;
+    if (isExactly(ntc.t_notice_type, row.type)) return row.code;
   }
   return kNoForm;
 }
@@ -135,7 +136,7 @@ void showNtcScreen(Workplace& work, std::int32_t key, const NtcRec& ntc, FormCod
 }
 
 void openNtcFromGrid(Workplace& work, std::int32_t key, std::int32_t idx, std::string_view type) {
-  const NtcRec ntc = readNotice(work, key, type == "DA1" || type == "GA1");
+  const NtcRec ntc = readNotice(work, key, isExactly(type, {types::DA1, types::GA1}));
   showNtcScreen(work, key, ntc, getNtcFormCode(ntc), idx);
 }
 

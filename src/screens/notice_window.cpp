@@ -40,7 +40,7 @@ constexpr int kWidthOfOnePage = 700;
 // Room for a window's frame and a task bar on the smallest displays.
 constexpr QSize kAroundWindow(12, 48);
 
-constexpr std::string_view kCloseButton = "Button_Reset";
+constexpr ControlName kCloseButton = "Button_Reset";
 
 struct FormName {
   FormCode code = kNoForm;
@@ -193,7 +193,7 @@ void NoticeWindow::layOut() {
 QLayout* NoticeWindow::makeTopStrip() {
   auto* const strip = new QHBoxLayout;
   strip->setSpacing(kGap);
-  for (const std::string_view name : kTopStrip) {
+  for (const ControlName name : kTopStrip) {
     QWidget* const part = widget(name);
     if (part == nullptr) continue;
     keepPlace(*part, false);
@@ -321,7 +321,7 @@ void NoticeWindow::chooseSize() {
 void NoticeWindow::connectControl(const Control& control, QWidget& made) {
   const std::string name = control.name;
   const auto enter = [this, name, &made] {
-    act(name, [&](Screen& screen) { screen.setText(name, enteredText(made)); });
+    act(name, [&](Screen& screen) { screen.setText(madeName(name), enteredText(made)); });
   };
   if (auto* const box = qobject_cast<QLineEdit*>(&made)) connect(box, &QLineEdit::textEdited, this, enter);
   if (auto* const memo = qobject_cast<QPlainTextEdit*>(&made))
@@ -332,7 +332,7 @@ void NoticeWindow::connectControl(const Control& control, QWidget& made) {
   }
   if (auto* const option = qobject_cast<QRadioButton*>(&made)) {
     connect(option, &QRadioButton::clicked, this,
-            [this, name] { act(name, [&](Screen& screen) { screen.setOption(name); }); });
+            [this, name] { act(name, [&](Screen& screen) { screen.setOption(madeName(name)); }); });
   }
   if (auto* const button = qobject_cast<QPushButton*>(&made)) {
     connect(button, &QPushButton::clicked, this, [this, name] { press(name); });
@@ -340,22 +340,23 @@ void NoticeWindow::connectControl(const Control& control, QWidget& made) {
   if (control.kind != ControlKind::list) return;
   auto& list = static_cast<PickList&>(made);
   list.picked = [this, name](int row) { pick(name, row); };
-  connect(&list, &QListWidget::itemDoubleClicked, this,
-          [this, name] { act(name, [&](Screen& screen) { screen.raise(Event::doubleClick, name); }); });
+  connect(&list, &QListWidget::itemDoubleClicked, this, [this, name] {
+    act(name, [&](Screen& screen) { screen.raise(Event::doubleClick, madeName(name)); });
+  });
 }
 
 void NoticeWindow::pick(const std::string& name, int index) {
   act(name, [&](Screen& screen) {
     if (index < 0) return;
-    if (screen.at(name).index == index) return screen.raise(Event::click, name);
-    screen.choose(name, index);
+    if (screen.at(madeName(name)).index == index) return screen.raise(Event::click, madeName(name));
+    screen.choose(madeName(name), index);
   });
 }
 
 void NoticeWindow::press(const std::string& name) {
-  act(name, [&](Screen& screen) { screen.raise(Event::click, name); });
+  act(name, [&](Screen& screen) { screen.raise(Event::click, madeName(name)); });
   // Whatever the form makes of it, this button closes.
-  if (name == kCloseButton) reject();
+  if (madeName(name) == kCloseButton) reject();
 }
 
 void NoticeWindow::act(const std::string& name, const std::function<void(Screen&)>& action) {
@@ -363,7 +364,7 @@ void NoticeWindow::act(const std::string& name, const std::function<void(Screen&
     const UsersHand hand(form_.screen);
     action(form_.screen);
   });
-  showControl(form_.screen.at(name), *widget(name));
+  showControl(form_.screen.at(madeName(name)), *widget(name));
 }
 
 bool NoticeWindow::askToLeave(QWidget& field) {
@@ -371,7 +372,7 @@ bool NoticeWindow::askToLeave(QWidget& field) {
   if (widget(name) != &field) return true;
   bool allowed = true;
   leaving_ = true;
-  act(name, [&](Screen&) { allowed = mayLeave_(form_, name); });
+  act(name, [&](Screen&) { allowed = mayLeave_(form_, madeName(name)); });
   leaving_ = false;
   return allowed;
 }

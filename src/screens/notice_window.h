@@ -21,7 +21,7 @@ class QTabWidget;
 namespace zamo {
 
 // Whether the user may leave a field, as mayLeaveField gives it.
-using LeaveRule = std::function<bool(NoticeForm& form, std::string_view control)>;
+using LeaveRule = std::function<bool(NoticeForm& form, ControlName control)>;
 
 // Makes a widget for every control that the form's screen has when the window is made, and follows the screen
 // from then on. One window a form; the form must outlive it.

@@ -7,6 +7,7 @@
 #include "database/lookups.h"
 #include "database/update_notice.h"
 #include "database/write_notice.h"
+#include "model/notice_words.h"
 #include "platform/message.h"
 #include "platform/text.h"
 #include "screens/form_events.h"
@@ -282,7 +283,7 @@ void addNotice(NoticeForm& form) {
   if (!passesSaveRules(form, rules)) return;
   NtcRec ntc = readScreen(form);
   // A TB notice is an action of its own, and refused with any other.
-  if (!isForm(form, kTbForms)) ntc.t_action = "ADD";
+  if (!isForm(form, kTbForms)) ntc.t_action = actions::ADD.text;
   if (!form.work.state.ntcFromOtherNotice && !askIdentifier(form, ntc)) return;
   form.work.state.ntcListChanged = true;
   const Message& question = isForm(form, kContourForm) ? kAskAddContour : kAskAdd;
@@ -310,19 +311,17 @@ void deleteNotice(NoticeForm& form) {
 namespace {
 
 constexpr EventRow kCommonEvents[] = {
-    {kAllForms, Event::click, "Button_Validate",
-     [](NoticeForm& form, std::string_view) { validateNotice(form); }},
-    {kAllForms, Event::click, "Button_Next", [](NoticeForm& form, std::string_view) { updateNotice(form); }},
-    {kAllForms, Event::click, "Button_AddNew", [](NoticeForm& form, std::string_view) { addNotice(form); }},
-    {kAllForms, Event::click, "Button_Finish",
-     [](NoticeForm& form, std::string_view) { deleteNotice(form); }},
-    {kAllForms, Event::click, "Button_Reset",
-     [](NoticeForm& form, std::string_view) { closeNtcScreen(form); }},
+    {kAllForms, Event::click, "Button_Validate", [](NoticeForm& form, ControlName) { validateNotice(form); }},
+    {kAllForms, Event::click, "Button_Next", [](NoticeForm& form, ControlName) { updateNotice(form); }},
+    {kAllForms, Event::click, "Button_AddNew", [](NoticeForm& form, ControlName) { addNotice(form); }},
+    {kAllForms, Event::click, "Button_Finish", [](NoticeForm& form, ControlName) { deleteNotice(form); }},
+    {kAllForms, Event::click, "Button_Reset", [](NoticeForm& form, ControlName) { closeNtcScreen(form); }},
     {kAllForms, Event::click, "Button_Next_Ntc",
-     [](NoticeForm& form, std::string_view) { showNtcAt(form, form.work.run.IndexPos + 1, kForward); }},
+     [](NoticeForm& form, ControlName) { showNtcAt(form, form.work.run.IndexPos + 1, kForward); }},
     {kAllForms, Event::click, "Button_Prev_Ntc",
-     [](NoticeForm& form, std::string_view) { showNtcAt(form, form.work.run.IndexPos - 1, kBackward); }},
+     [](NoticeForm& form, ControlName) { showNtcAt(form, form.work.run.IndexPos - 1, kBackward); }},
 };
+static_assert(areOnTheirForms(kCommonEvents, &EventRow::control));
 
 }  // namespace
 

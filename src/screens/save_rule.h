@@ -21,15 +21,15 @@ struct SaveGate {
 };
 
 // Whether the rule of a control is broken.
-using SaveTest = bool (*)(const Screen& screen, std::string_view control);
+using SaveTest = bool (*)(const Screen& screen, ControlName control);
 // The line of a rule whose words depend on what is found; empty when all is well.
-using SaveFinding = std::string (*)(const SaveGate& gate, std::string_view control);
+using SaveFinding = std::string (*)(const SaveGate& gate, ControlName control);
 
 // A rule has a test and a message, or a finding.
 struct SaveRule {
   FormSet forms = 0;
   SaveTest isBroken = nullptr;
-  std::string_view control;
+  ControlName control;
   std::string_view message;
   SaveFinding finding = nullptr;
 };
@@ -42,17 +42,17 @@ std::span<const SaveRule> contourRules();
 std::span<const SaveRule> tbRules();
 
 // What the tables share.
-bool whenEmpty(const Screen& screen, std::string_view control);
-bool underArt5WhenEmpty(const Screen& screen, std::string_view control);
-bool whenAnyIsEmpty(const Screen& screen, std::span<const std::string_view> controls);
+bool whenEmpty(const Screen& screen, ControlName control);
+bool underArt5WhenEmpty(const Screen& screen, ControlName control);
+bool whenAnyIsEmpty(const Screen& screen, std::span<const ControlName> controls);
 
 // The administration may not notify for the country or area in the control.
-std::string foreignFinding(const SaveGate& gate, std::string_view control);
+std::string foreignFinding(const SaveGate& gate, ControlName control);
 
 // The four parts of each coordinate, degrees first.
 struct CoordinateBoxes {
-  std::string_view longitude[4];
-  std::string_view latitude[4];
+  ControlName longitude[4];
+  ControlName latitude[4];
 };
 inline constexpr CoordinateBoxes kSiteBoxes = {
     {"Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_EW"},
@@ -60,6 +60,6 @@ inline constexpr CoordinateBoxes kSiteBoxes = {
 inline constexpr CoordinateBoxes kTargetBoxes = {
     {"Txt_trg_long_DD", "Txt_trg_long_MM", "Txt_trg_long_SS", "Txt_trg_long_EW"},
     {"Txt_trg_lat_DD", "Txt_trg_lat_MM", "Txt_trg_lat_SS", "Txt_trg_lat_NS"}};
-inline constexpr std::string_view kInUseBoxes[] = {"Txt_InUse_DD", "Txt_InUse_MM", "Txt_InUse_YY"};
+inline constexpr ControlName kInUseBoxes[] = {"Txt_InUse_DD", "Txt_InUse_MM", "Txt_InUse_YY"};
 
 }  // namespace zamo

@@ -33,7 +33,7 @@ const FormRules kFormRules[] = {
 // One of a form's fields has to be filled before the form is worth working on.
 struct EnoughRow {
   FormSet forms;
-  std::string_view field;
+  ControlName field;
 };
 constexpr EnoughRow kEnough[] = {
     {kAssignmentForms,                                     "Txt_4C_Deg_Long"},
@@ -48,6 +48,7 @@ constexpr EnoughRow kEnough[] = {
     {formBit(kTB2),                                        "Txt_PlanAdmRefID"},
     {formBit(kTB3) | formBit(kTB5),                        "Txt_TrgAdmRefID"},
 };
+static_assert(areOnTheirForms(kEnough, &EnoughRow::field));
 // clang-format on
 
 const FormRules& rulesOf(const Screen& screen) {
@@ -75,20 +76,20 @@ std::string makeList(const Message& header, std::span<const SaveRule> rules, con
 
 }  // namespace
 
-bool whenEmpty(const Screen& screen, std::string_view control) {
+bool whenEmpty(const Screen& screen, ControlName control) {
   return screen.isEmpty(control);
 }
 
-bool underArt5WhenEmpty(const Screen& screen, std::string_view control) {
+bool underArt5WhenEmpty(const Screen& screen, ControlName control) {
   return screen.isSet("Opt_Art5") && screen.isEmpty(control);
 }
 
-bool whenAnyIsEmpty(const Screen& screen, std::span<const std::string_view> controls) {
+bool whenAnyIsEmpty(const Screen& screen, std::span<const ControlName> controls) {
   return std::any_of(controls.begin(), controls.end(),
-                     [&screen](std::string_view control) { return screen.isEmpty(control); });
+                     [&screen](ControlName control) { return screen.isEmpty(control); });
 }
 
-std::string foreignFinding(const SaveGate& gate, std::string_view control) {
+std::string foreignFinding(const SaveGate& gate, ControlName control) {
   const std::string& adm = gate.screen.text("Combo_B_Adm");
   const std::string& area = gate.screen.text(control);
   if (adm.empty() || area.empty() || isCtryOfAdm(area, adm)) return {};

@@ -11,13 +11,13 @@ void Screen::add(Control control) {
   controls_.insert_or_assign(std::move(name), std::move(control));
 }
 
-const Control& Screen::at(std::string_view name) const {
-  const auto found = controls_.find(name);
+const Control& Screen::at(ControlName name) const {
+  const auto found = controls_.find(std::string_view(name));
   if (found == controls_.end()) throw std::out_of_range("no control " + std::string(name));
   return found->second;
 }
 
-Control& Screen::find(std::string_view name) {
+Control& Screen::find(ControlName name) {
   return const_cast<Control&>(std::as_const(*this).at(name));
 }
 
@@ -30,7 +30,7 @@ void Screen::setTitle(std::string_view title) {
   titleChanged(title_);
 }
 
-void Screen::setText(std::string_view name, std::string_view text) {
+void Screen::setText(ControlName name, std::string_view text) {
   Control& control = find(name);
   if (control.text == text) return;
   control.text = text;
@@ -39,60 +39,60 @@ void Screen::setText(std::string_view name, std::string_view text) {
     control.index = item == control.items.end() ? -1 : static_cast<int>(item - control.items.begin());
   }
   changed(control);
-  raised(Event::change, control.name);
+  raised(Event::change, madeName(control.name));
 }
 
-void Screen::setCaption(std::string_view name, std::string_view caption) {
+void Screen::setCaption(ControlName name, std::string_view caption) {
   Control& control = find(name);
   if (control.caption == caption) return;
   control.caption = caption;
   changed(control);
 }
 
-void Screen::setVisible(std::string_view name, bool visible) {
+void Screen::setVisible(ControlName name, bool visible) {
   Control& control = find(name);
   if (control.visible == visible) return;
   control.visible = visible;
   changed(control);
 }
 
-void Screen::setVisible(std::initializer_list<std::string_view> names, bool visible) {
-  for (const std::string_view name : names) setVisible(name, visible);
+void Screen::setVisible(ControlNames names, bool visible) {
+  for (const ControlName name : names) setVisible(name, visible);
 }
 
-void Screen::setEnabled(std::string_view name, bool enabled) {
+void Screen::setEnabled(ControlName name, bool enabled) {
   Control& control = find(name);
   if (control.enabled == enabled) return;
   control.enabled = enabled;
   changed(control);
 }
 
-void Screen::setGrey(std::string_view name, bool grey) {
+void Screen::setGrey(ControlName name, bool grey) {
   Control& control = find(name);
   if (control.grey == grey) return;
   control.grey = grey;
   changed(control);
 }
 
-void Screen::setOption(std::string_view name) {
+void Screen::setOption(ControlName name) {
   Control& option = find(name);
   if (option.isSet) return;
   for (auto& [otherName, other] : controls_) {
-    if (other.isSet && other.optionGroup == option.optionGroup) unsetOption(otherName);
+    if (other.isSet && other.optionGroup == option.optionGroup) unsetOption(madeName(otherName));
   }
   option.isSet = true;
   changed(option);
-  raised(Event::click, option.name);
+  raised(Event::click, madeName(option.name));
 }
 
-void Screen::unsetOption(std::string_view name) {
+void Screen::unsetOption(ControlName name) {
   Control& option = find(name);
   if (!option.isSet) return;
   option.isSet = false;
   changed(option);
 }
 
-void Screen::choose(std::string_view name, int index) {
+void Screen::choose(ControlName name, int index) {
   Control& control = find(name);
   const bool isItem = index >= 0 && static_cast<std::size_t>(index) < control.items.size();
   const int wanted = isItem ? index : -1;
@@ -101,10 +101,10 @@ void Screen::choose(std::string_view name, int index) {
   control.index = wanted;
   if (control.kind == ControlKind::combo) control.text = text;
   changed(control);
-  raised(Event::click, control.name);
+  raised(Event::click, madeName(control.name));
 }
 
-bool Screen::chooseText(std::string_view name, std::string_view text) {
+bool Screen::chooseText(ControlName name, std::string_view text) {
   const std::vector<std::string>& all = items(name);
   const auto item = std::find(all.begin(), all.end(), text);
   if (item == all.end()) return false;
@@ -112,18 +112,18 @@ bool Screen::chooseText(std::string_view name, std::string_view text) {
   return true;
 }
 
-void Screen::setItems(std::string_view name, std::vector<std::string> items) {
+void Screen::setItems(ControlName name, std::vector<std::string> items) {
   Control& control = find(name);
   control.items = std::move(items);
   control.index = -1;
   changed(control);
 }
 
-void Screen::addItem(std::string_view name, std::string_view item) {
+void Screen::addItem(ControlName name, std::string_view item) {
   insertItem(name, static_cast<int>(items(name).size()), item);
 }
 
-void Screen::insertItem(std::string_view name, int index, std::string_view item) {
+void Screen::insertItem(ControlName name, int index, std::string_view item) {
   Control& control = find(name);
   const int place = std::clamp(index, 0, static_cast<int>(control.items.size()));
   control.items.insert(control.items.begin() + place, std::string(item));
@@ -131,7 +131,7 @@ void Screen::insertItem(std::string_view name, int index, std::string_view item)
   changed(control);
 }
 
-void Screen::removeItem(std::string_view name, int index) {
+void Screen::removeItem(ControlName name, int index) {
   Control& control = find(name);
   if (index < 0 || static_cast<std::size_t>(index) >= control.items.size()) return;
   control.items.erase(control.items.begin() + index);
@@ -139,11 +139,11 @@ void Screen::removeItem(std::string_view name, int index) {
   changed(control);
 }
 
-void Screen::raise(Event event, std::string_view name) const {
-  raised(event, at(name).name);
+void Screen::raise(Event event, ControlName name) const {
+  raised(event, madeName(at(name).name));
 }
 
-void Screen::setFocus(std::string_view name) const {
+void Screen::setFocus(ControlName name) const {
   focusWanted(at(name).name);
 }
 

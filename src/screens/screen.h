@@ -4,43 +4,14 @@
 
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "screens/control_name.h"
+
 namespace zamo {
-
-// What a notice type is turned into: it chooses the form and the tables of the form.
-enum FormCode : std::int16_t {
-  kNoForm = 0,
-  kGS1Assign = 3,
-  kGT1Assign = 4,
-  kGS2Allot = 5,
-  kGT2Allot = 6,
-  kGA1SubAllot = 7,
-  kTB5 = 8,
-  kTB3 = 9,
-  kTB2 = 10,
-};
-
-// A set of forms, for the rows of tables.
-using FormSet = unsigned;
-constexpr FormSet formBit(FormCode code) {
-  return 1U << static_cast<unsigned>(code);
-}
-inline constexpr FormSet kAssignmentForms = formBit(kGS1Assign) | formBit(kGT1Assign);
-inline constexpr FormSet kAllotmentForms = formBit(kGS2Allot) | formBit(kGT2Allot);
-inline constexpr FormSet kContourForm = formBit(kGA1SubAllot);
-inline constexpr FormSet kTbForms = formBit(kTB5) | formBit(kTB3) | formBit(kTB2);
-inline constexpr FormSet kAllForms = kAssignmentForms | kAllotmentForms | kContourForm | kTbForms;
-
-constexpr bool isOneOf(FormCode code, FormSet forms) {
-  return (formBit(code) & forms) != 0;
-}
-
-enum class ControlKind : std::uint8_t { text, memo, combo, list, option, button, label, frame };
 
 // What happens to a control. The program's changes raise `change` and `click` as the user's do.
 enum class Event : std::uint8_t { change, click, doubleClick };
@@ -73,13 +44,13 @@ class Screen {
   void add(Control control);
 
   // A name that the form doesn't have throws std::out_of_range.
-  const Control& at(std::string_view name) const;
-  bool has(std::string_view name) const { return controls_.find(name) != controls_.end(); }
-  const std::string& text(std::string_view name) const { return at(name).text; }
-  bool isEmpty(std::string_view name) const { return at(name).text.empty(); }
-  bool isSet(std::string_view name) const { return at(name).isSet; }
-  bool isVisible(std::string_view name) const { return at(name).visible; }
-  const std::vector<std::string>& items(std::string_view name) const { return at(name).items; }
+  const Control& at(ControlName name) const;
+  bool has(ControlName name) const { return controls_.find(std::string_view(name)) != controls_.end(); }
+  const std::string& text(ControlName name) const { return at(name).text; }
+  bool isEmpty(ControlName name) const { return at(name).text.empty(); }
+  bool isSet(ControlName name) const { return at(name).isSet; }
+  bool isVisible(ControlName name) const { return at(name).visible; }
+  const std::vector<std::string>& items(ControlName name) const { return at(name).items; }
 
   void forEach(const std::function<void(const Control&)>& visit) const;
 
@@ -90,31 +61,31 @@ class Screen {
   // Each of these tells `changed`, and raises the control's event where one is named, if there is a change.
 
   // The text of a text box, or of a combo that can be typed into. Raises `change`.
-  void setText(std::string_view name, std::string_view text);
-  void setCaption(std::string_view name, std::string_view caption);
-  void setVisible(std::string_view name, bool visible);
-  void setVisible(std::initializer_list<std::string_view> names, bool visible);
-  void setEnabled(std::string_view name, bool enabled);
-  void setGrey(std::string_view name, bool grey);
+  void setText(ControlName name, std::string_view text);
+  void setCaption(ControlName name, std::string_view caption);
+  void setVisible(ControlName name, bool visible);
+  void setVisible(ControlNames names, bool visible);
+  void setEnabled(ControlName name, bool enabled);
+  void setGrey(ControlName name, bool grey);
   // Sets the option and unsets the others of its group. Raises `click` for the one that is set.
-  void setOption(std::string_view name);
-  void unsetOption(std::string_view name);
+  void setOption(ControlName name);
+  void unsetOption(ControlName name);
   // Chooses an item of a combo or a list; -1 chooses none. A combo takes the item as its text. Raises
   // `click`.
-  void choose(std::string_view name, int index);
+  void choose(ControlName name, int index);
   // Chooses the first item that equals the text exactly; gives whether there is one. Otherwise nothing
   // changes.
-  bool chooseText(std::string_view name, std::string_view text);
+  bool chooseText(ControlName name, std::string_view text);
   // The lists of combos and lists. What was chosen is forgotten, without an event.
-  void setItems(std::string_view name, std::vector<std::string> items);
-  void addItem(std::string_view name, std::string_view item);
-  void insertItem(std::string_view name, int index, std::string_view item);
-  void removeItem(std::string_view name, int index);
-  void clearItems(std::string_view name) { setItems(name, {}); }
+  void setItems(ControlName name, std::vector<std::string> items);
+  void addItem(ControlName name, std::string_view item);
+  void insertItem(ControlName name, int index, std::string_view item);
+  void removeItem(ControlName name, int index);
+  void clearItems(ControlName name) { setItems(name, {}); }
 
   // Raises an event of a control as the user's hand does: choosing an item again is a click too.
-  void raise(Event event, std::string_view name) const;
-  void setFocus(std::string_view name) const;
+  void raise(Event event, ControlName name) const;
+  void setFocus(ControlName name) const;
   void redrawAll() const;
 
   // While a stored notice is brought to the screen: rules that clear a box leave what is stored to be seen.
@@ -127,10 +98,10 @@ class Screen {
   std::function<void(const std::string&)> titleChanged = [](const std::string&) {};
   std::function<void(const std::string&)> focusWanted = [](const std::string&) {};
   // The rules': something happened to a control.
-  std::function<void(Event, std::string_view)> raised = [](Event, std::string_view) {};
+  std::function<void(Event, ControlName)> raised = [](Event, ControlName) {};
 
  private:
-  Control& find(std::string_view name);
+  Control& find(ControlName name);
 
   FormCode code_;
   std::string title_;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "model/notice_words.h"
 #include "platform/dates.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -28,40 +29,41 @@ struct FormConstants {
 
 // clang-format off
 constexpr FormConstants kFormConstants[] = {
-    {kGS1Assign,   "GS1", "BC", "",        ""},
-    {kGT1Assign,   "GT1", "BT", "",        ""},
-    {kGS2Allot,    "GS2", "BC", "",        ""},
-    {kGT2Allot,    "GT2", "BT", "",        ""},
-    {kGA1SubAllot, "GA1", "",   "",        ""},
-    {kTB5,         "TB5", "",   "",        ""},
-    {kTB3,         "TB3", "",   "PARTB",   "KV19D"},
-    {kTB2,         "TB2", "",   "CONFORM", "KV19D"},
+    {kGS1Assign,   types::GS1.text, "BC", "",        ""},
+    {kGT1Assign,   types::GT1.text, "BT", "",        ""},
+    {kGS2Allot,    types::GS2.text, "BC", "",        ""},
+    {kGT2Allot,    types::GT2.text, "BT", "",        ""},
+    {kGA1SubAllot, types::GA1.text, "",   "",        ""},
+    {kTB5,         types::TB5.text, "",   "",        ""},
+    {kTB3,         types::TB3.text, "",   actions::PARTB.text,   fragments::KV19D.text},
+    {kTB2,         types::TB2.text, "",   actions::CONFORM.text, fragments::KV19D.text},
 };
 
 // An option that stands for a value. Where several are set the first counts.
 struct OptionRow {
   FormSet forms;
-  std::string_view option;
+  ControlName option;
   std::string_view value;
 };
 
 constexpr OptionRow kActions[] = {
-    {kAssignmentForms | kAllotmentForms | kContourForm, "OptInt_Add",      "ADD"},
-    {kAssignmentForms | kAllotmentForms,                "OptInt_Mod",      "MODIFY"},
-    {kContourForm,                                      "OptInt_Suppress", "SUPPRESS"},
-    {formBit(kTB5),                                     "OptInt_WDraw",    "WITHDRAW"},
-    {formBit(kTB5),                                     "OptInt_Supp",     "SUPPRESS"},
+    {kAssignmentForms | kAllotmentForms | kContourForm, "OptInt_Add",      actions::ADD.text},
+    {kAssignmentForms | kAllotmentForms,                "OptInt_Mod",      actions::MODIFY.text},
+    {kContourForm,                                      "OptInt_Suppress", actions::SUPPRESS.text},
+    {formBit(kTB5),                                     "OptInt_WDraw",    actions::WITHDRAW.text},
+    {formBit(kTB5),                                     "OptInt_Supp",     actions::SUPPRESS.text},
 };
 
 constexpr OptionRow kFragments[] = {
-    {kAssignmentForms | formBit(kTB5), "Opt_Art4", "KV19D"},
-    {kAssignmentForms | formBit(kTB5), "Opt_Art5", "NTFD_PZ"},
+    {kAssignmentForms | formBit(kTB5), "Opt_Art4", fragments::KV19D.text},
+    {kAssignmentForms | formBit(kTB5), "Opt_Art5", fragments::NTFD_PZ.text},
 };
+static_assert(areOnTheirForms(kActions, &OptionRow::option) && areOnTheirForms(kFragments, &OptionRow::option));
 
 using AzimuthValues = std::array<AzmValueRec, kAzimuths>;
 
 struct Grid {
-  std::string_view boxes;
+  ControlStem boxes;
   AzimuthValues NtcRec::*values;
   std::string_view polar;  // that has a diagram in this plane, besides M; empty: the grid is there always
 };
@@ -101,7 +103,7 @@ void fillIntent(const NtcRec& ntc, Screen& screen, FormCode code) {
   if (ntc.t_action.empty()) return;
   const OptionRow* known = rowOfValue(kActions, code, ntc.t_action);
   screen.setCaption("OptInt_Add", known != nullptr ? "ADD" : "RECORDED");
-  screen.setOption(known != nullptr ? known->option : "OptInt_Add");
+  screen.setOption(known != nullptr ? known->option : ControlName("OptInt_Add"));
 }
 
 void fillCoordination(const NtcRec& ntc, Screen& screen) {
@@ -146,7 +148,7 @@ void fillGrids(const NtcRec& ntc, Screen& screen) {
     if (!hasGrid(grid, ntc.t_polar, ntc.t_ant_dir)) continue;
     int azimuth = 0;
     for (const AzmValueRec& entry : ntc.*grid.values) {
-      if (!entry.value.empty()) screen.setText(azimuthBox(grid.boxes, azimuth), entry.value);
+      if (!entry.value.empty()) screen.setText(madeName(azimuthBox(grid.boxes, azimuth)), entry.value);
       azimuth += 10;
     }
   }
@@ -196,13 +198,15 @@ void fillAllotment(const NtcRec& ntc, Screen& screen, FormCode code) {
 
 void fillTb5Intent(const NtcRec& ntc, Screen& screen) {
   if (ntc.t_action.empty()) return;
-  screen.setOption(equalsIgnoringCase(ntc.t_action, "WITHDRAW") ? "OptInt_WDraw" : "OptInt_Supp");
+  screen.setOption(isInAnyCase(ntc.t_action, actions::WITHDRAW) ? ControlName("OptInt_WDraw")
+                                                                : ControlName("OptInt_Supp"));
 }
 
-std::string_view labelOfTarget(std::string_view control) {
+ControlName labelOfTarget(ControlName control) {
   if (control == "Txt_TrgFreq") return "lbl_freqAssgn";
-  const bool isLongitude = control.ends_with("_Long") || control.ends_with("_EW");
-  return isLongitude ? "Lbl_4C_Long" : "Lbl_4C_Lat";
+  const std::string_view name = control;
+  const bool isLongitude = name.ends_with("_Long") || name.ends_with("_EW");
+  return isLongitude ? ControlName("Lbl_4C_Long") : ControlName("Lbl_4C_Lat");
 }
 
 // A target that is told by its frequency or its place takes the place of the reference.
@@ -313,7 +317,7 @@ void readCommon(NtcRec& ntc, const Screen& screen, FormCode code) {
 
 void readArticle(NtcRec& ntc, const Screen& screen, FormCode code) {
   ntc.t_fragment = valueOfOptions(kFragments, screen, code);
-  if (ntc.t_fragment == "NTFD_PZ") ntc.t_prov = "PZ11.2";
+  if (isExactly(ntc.t_fragment, fragments::NTFD_PZ)) ntc.t_prov = "PZ11.2";
 }
 
 void readGrids(NtcRec& ntc, const Screen& screen) {
@@ -323,7 +327,7 @@ void readGrids(NtcRec& ntc, const Screen& screen) {
     if (!hasGrid(grid, polar, directivity)) continue;
     int azimuth = 0;
     for (AzmValueRec& entry : ntc.*grid.values) {
-      const std::string& value = screen.text(azimuthBox(grid.boxes, azimuth));
+      const std::string& value = screen.text(madeName(azimuthBox(grid.boxes, azimuth)));
       if (!value.empty()) entry = {true, std::to_string(azimuth), value};
       azimuth += 10;
     }
@@ -333,18 +337,18 @@ void readGrids(NtcRec& ntc, const Screen& screen) {
 void readAssignment(NtcRec& ntc, const Screen& screen, FormCode code) {
   readArticle(ntc, screen, code);
   readStage(ntc, screen, code, Stage::site);
-  if (ntc.t_action == "MODIFY") readStage(ntc, screen, code, Stage::target);
+  if (isExactly(ntc.t_action, actions::MODIFY)) readStage(ntc, screen, code, Stage::target);
   readStage(ntc, screen, code, Stage::station);
   readGrids(ntc, screen);
   readStage(ntc, screen, code, Stage::system);
 }
 
 void readAllotment(NtcRec& ntc, const Screen& screen, FormCode code) {
-  ntc.t_fragment = "KV19D";
+  ntc.t_fragment = fragments::KV19D.text;
   // An allotment always has a row of its own, however little of it is told.
   AllotRec& allot = ntc.digital.allot;
   allot.present = true;
-  if (ntc.t_action == "MODIFY") readStage(ntc, screen, code, Stage::allotmentTarget);
+  if (isExactly(ntc.t_action, actions::MODIFY)) readStage(ntc, screen, code, Stage::allotmentTarget);
   readStage(ntc, screen, code, Stage::allotment);
   const std::vector<std::string>& ids = screen.items("ListBoxContourID");
   std::copy_n(ids.begin(), std::min(ids.size(), allot.t_contour_id.size()), allot.t_contour_id.begin());
@@ -354,7 +358,7 @@ void readTb(NtcRec& ntc, const Screen& screen, FormCode code) {
   readInternalRemarks(ntc, screen);
   if (code == kTB5) {
     ntc.t_action = valueOfOptions(kActions, screen, code);
-    ntc.t_fragment = screen.isSet("Opt_Art4") ? "KV19D" : "NTFD_PZ";
+    ntc.t_fragment = (screen.isSet("Opt_Art4") ? fragments::KV19D : fragments::NTFD_PZ).text;
   }
   readStage(ntc, screen, code, Stage::tb);
   readStage(ntc, screen, code, Stage::tbTarget);

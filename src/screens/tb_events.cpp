@@ -16,28 +16,28 @@ const Message kNoTb2("box \"Notice creation Error\": TB2 of a television assignm
 // clang-format on
 
 // What a TB2 target that isn't named by its identifier takes.
-constexpr std::string_view kTargetBoxes[] = {"Txt_TrgFreq",     "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
-                                             "Txt_4C_Sec_Long", "Txt_4C_EW",       "Txt_4C_Deg_Lat",
-                                             "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
-constexpr std::string_view kTargetLabels[] = {"LblOr", "Lbl_FreqUnit", "lbl_freqAssgn", "Lbl_4C_Long",
-                                              "Lbl_4C_Lat"};
+constexpr ControlName kTargetBoxes[] = {"Txt_TrgFreq",     "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
+                                        "Txt_4C_Sec_Long", "Txt_4C_EW",       "Txt_4C_Deg_Lat",
+                                        "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
+constexpr ControlName kTargetLabels[] = {"LblOr", "Lbl_FreqUnit", "lbl_freqAssgn", "Lbl_4C_Long",
+                                         "Lbl_4C_Lat"};
 
 // What makes no sense on a form whose notice isn't stored yet.
-constexpr std::string_view kOfStoredNotices[] = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
-                                                 "Button_Next",    "Button_Next_Ntc", "Button_Prev_Ntc"};
+constexpr ControlName kOfStoredNotices[] = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
+                                            "Button_Next",    "Button_Next_Ntc", "Button_Prev_Ntc"};
 
-void leaveTarget(NoticeForm& form, std::string_view control) {
+void leaveTarget(NoticeForm& form, ControlName control) {
   const bool isEmpty = form.screen.isEmpty(control);
-  for (const std::string_view box : kTargetBoxes) form.screen.setVisible(box, isEmpty);
-  for (const std::string_view label : kTargetLabels) form.screen.setVisible(label, isEmpty);
+  for (const ControlName box : kTargetBoxes) form.screen.setVisible(box, isEmpty);
+  for (const ControlName label : kTargetLabels) form.screen.setVisible(label, isEmpty);
   if (!isEmpty) form.work.state.screenIsBlank = false;
 }
 
 // A stored frequency and place hide the identifier; once they are emptied the user may tell it instead.
-void leaveTargetBox(NoticeForm& form, std::string_view /*control*/) {
+void leaveTargetBox(NoticeForm& form, ControlName /*control*/) {
   Screen& screen = form.screen;
   if (std::all_of(std::begin(kTargetBoxes), std::end(kTargetBoxes),
-                  [&screen](std::string_view box) { return screen.isEmpty(box); })) {
+                  [&screen](ControlName box) { return screen.isEmpty(box); })) {
     screen.setVisible({"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"}, true);
   }
 }
@@ -55,6 +55,7 @@ constexpr LeaveRow kLeaves[] = {
     {formBit(kTB2), "Txt_4C_Sec_Lat",  leaveTargetBox},
     {formBit(kTB2), "Txt_4C_NS",       leaveTargetBox},
 };
+static_assert(areOnTheirForms(kLeaves, &LeaveRow::control));
 // clang-format on
 
 // While it lives, a TB form belongs to another notice, whose screen is the same afterwards.
@@ -75,7 +76,7 @@ class FromOtherNotice {
   bool wasBlank_;
 };
 
-void copyText(const Screen& from, std::string_view control, Screen& to, std::string_view toControl) {
+void copyText(const Screen& from, ControlName control, Screen& to, ControlName toControl) {
   to.setText(toControl, from.text(control));
 }
 
@@ -83,7 +84,7 @@ void fillTB5(const Screen& from, Screen& to) {
   copyText(from, "Txt_AdmRefID", to, "Txt_TrgAdmRefID");
   if (!isOneOf(from.code(), kAssignmentForms)) return to.setOption("Opt_Art4");
   copyText(from, "Txt_EmailAddr", to, "Txt_EmailAddr");
-  for (const std::string_view article : {"Opt_Art4", "Opt_Art5"}) {
+  for (const ControlName article : ControlNames{"Opt_Art4", "Opt_Art5"}) {
     if (from.isSet(article)) {
       to.setOption(article);
     } else {
@@ -101,7 +102,7 @@ void fillTB2(const Screen& from, Screen& to) {
 }
 
 struct CreationRow {
-  std::string_view option;
+  ControlName option;
   FormCode code;
   void (*fill)(const Screen& from, Screen& to);
 };
@@ -127,7 +128,7 @@ void showCreated(NoticeForm& source, const CreationRow& row) {
   copyText(from, "Txt_Filename", to, "Txt_Filename");
   row.fill(from, to);
   to.chooseText("Combo_B_Adm", trimText(from.text("Combo_B_Adm")));
-  for (const std::string_view control : kOfStoredNotices) to.setVisible(control, false);
+  for (const ControlName control : kOfStoredNotices) to.setVisible(control, false);
   source.work.dialogs.showForm(created);
 }
 
@@ -137,7 +138,7 @@ bool lacksSystem(const Screen& screen) {
          screen.isEmpty("Combo_LMZ04_Sys_Var") && screen.isEmpty("Combo_LMZ04_RxMode");
 }
 
-void createNotice(NoticeForm& form, std::string_view /*button*/) {
+void createNotice(NoticeForm& form, ControlName /*button*/) {
   const Host& host = form.work.host;
   const FromOtherNotice fromOther(form.work.state);
   const CreationRow* const row = chosenCreation(form.screen);
@@ -155,6 +156,7 @@ void createNotice(NoticeForm& form, std::string_view /*button*/) {
 constexpr EventRow kCreate[] = {
     {kAssignmentForms | kAllotmentForms, Event::click, "btn_Create", createNotice},
 };
+static_assert(areOnTheirForms(kCreate, &EventRow::control));
 
 }  // namespace
 

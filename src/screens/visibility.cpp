@@ -14,11 +14,11 @@ namespace zamo {
 namespace {
 
 // What is stored stays to be seen, even where no rule wants it.
-bool holdsStored(const Screen& screen, std::string_view field) {
+bool holdsStored(const Screen& screen, ControlName field) {
   return screen.filling && !screen.isEmpty(field);
 }
 
-void show(Screen& screen, std::string_view field, bool shown) {
+void show(Screen& screen, ControlName field, bool shown) {
   screen.setVisible(field, shown || holdsStored(screen, field));
 }
 
@@ -27,7 +27,7 @@ void show(Screen& screen, const LabelledField& one, bool shown) {
   screen.setVisible(one.label, screen.isVisible(one.field));
 }
 
-void clearText(Screen& screen, std::string_view box) {
+void clearText(Screen& screen, ControlName box) {
   if (!holdsStored(screen, box)) screen.setText(box, "");
 }
 
@@ -43,13 +43,13 @@ bool hasSystem(const Screen& screen) {
 
 // The target's frequency and coordinates.
 void showTargetPlace(Screen& screen, bool shown) {
-  for (const std::string_view box : kTargetCoordinates) show(screen, box, shown);
+  for (const ControlName box : kTargetCoordinates) show(screen, box, shown);
   show(screen, "Txt_trg_freq_assgn", shown);
   screen.setVisible("Lbl_trg_or", shown);
 }
 
 void clearTargetPlace(Screen& screen) {
-  for (const std::string_view box : kTargetCoordinates) clearText(screen, box);
+  for (const ControlName box : kTargetCoordinates) clearText(screen, box);
   clearText(screen, "Txt_trg_freq_assgn");
 }
 
@@ -58,7 +58,7 @@ void takeOwnIdAsTarget(Screen& screen) {
   if (!holdsStored(screen, kTargetId.field)) screen.setText(kTargetId.field, screen.text("Txt_AdmRefID"));
 }
 
-std::string captionOf(FormCode code, std::string_view control) {
+std::string captionOf(FormCode code, ControlName control) {
   for (const ControlRow& row : controlRows(code)) {
     if (row.name == control) return std::string(row.caption);
   }
@@ -177,12 +177,13 @@ std::vector<std::string> controlsOf(const Screen& screen, std::initializer_list<
 
 // The options go first, so that no rule takes an emptied field for that of a modification or an article.
 void emptyControls(Screen& screen) {
-  for (const std::string& option : controlsOf(screen, {ControlKind::option})) screen.unsetOption(option);
+  for (const std::string& option : controlsOf(screen, {ControlKind::option}))
+    screen.unsetOption(madeName(option));
   for (const std::string& box : controlsOf(screen, {ControlKind::text, ControlKind::memo})) {
-    screen.setText(box, "");
+    screen.setText(madeName(box), "");
   }
-  for (const std::string& combo : controlsOf(screen, {ControlKind::combo})) screen.choose(combo, 0);
-  for (const std::string_view list : kNoticeLists) {
+  for (const std::string& combo : controlsOf(screen, {ControlKind::combo})) screen.choose(madeName(combo), 0);
+  for (const ControlName list : kNoticeLists) {
     if (screen.has(list)) screen.clearItems(list);
   }
 }
@@ -274,8 +275,8 @@ void applyAreaRule(Screen& screen) {
 
 void lockSubAreas(Screen& screen, bool locked) {
   if (locked) screen.clearItems("ListBoxContourID");
-  for (const std::string_view control :
-       {"Txt_LMZ04_contour_id", "FrameSubArea", "Button_Add_Contour", "Button_Clear_Contour"}) {
+  for (const ControlName control :
+       ControlNames{"Txt_LMZ04_contour_id", "FrameSubArea", "Button_Add_Contour", "Button_Clear_Contour"}) {
     screen.setEnabled(control, !locked);
   }
   screen.setGrey("Txt_LMZ04_contour_id", locked);
@@ -283,7 +284,7 @@ void lockSubAreas(Screen& screen, bool locked) {
 }
 
 void lockTestPoints(Screen& screen, bool locked) {
-  for (const std::string_view box : kTestPointBoxes) {
+  for (const ControlName box : kTestPointBoxes) {
     screen.setEnabled(box, !locked);
     screen.setGrey(box, locked);
   }

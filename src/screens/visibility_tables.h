@@ -9,17 +9,17 @@ namespace zamo {
 
 // A box or a combo with the label beside it.
 struct LabelledField {
-  std::string_view field;
-  std::string_view label;
+  ControlName field;
+  ControlName label;
 };
 
 // clang-format off
-inline constexpr std::string_view kTargetCoordinates[] = {
+inline constexpr ControlName kTargetCoordinates[] = {
     "Txt_trg_long_DD", "Txt_trg_long_MM", "Txt_trg_long_SS", "Txt_trg_long_EW",
     "Txt_trg_lat_DD",  "Txt_trg_lat_MM",  "Txt_trg_lat_SS",  "Txt_trg_lat_NS",
 };
 
-inline constexpr std::string_view kTestPointBoxes[] = {
+inline constexpr ControlName kTestPointBoxes[] = {
     "Txt_LMZ04_Deg_Long", "Txt_LMZ04_Min_Long", "Txt_LMZ04_Sec_Long", "Txt_LMZ04_EW",
     "Txt_LMZ04_Deg_Lat",  "Txt_LMZ04_Min_Lat",  "Txt_LMZ04_Sec_Lat",  "Txt_LMZ04_NS",
 };
@@ -37,14 +37,14 @@ inline constexpr LabelledField kSystem[]  = {{"Combo_LMZ04_Sys_Var",       "Lbl_
 // The article, and what of a modification's target shows under it. The last row: neither, where article 4 has
 // the last word on the target.
 struct ArticleRow {
-  std::string_view option;
+  ControlName option;
   bool art5Frame, art4Frame;
   bool ownIdOnly;  // the target is the notice of the same identifier, and else may be told by its place
 };
 inline constexpr ArticleRow kArticles[] = {
     {"Opt_Art4", false, true,  true},
     {"Opt_Art5", true,  false, false},
-    {"",         true,  true,  true},
+    {{},         true,  true,  true},
 };
 
 inline constexpr std::string_view kAny = "*";
@@ -91,7 +91,7 @@ inline constexpr PlanEntryRow kPlanEntries[] = {
 // A state that a control has on opening and again for the next notice, whatever became of it meanwhile.
 struct OpeningState {
   FormSet forms;
-  std::string_view control;
+  ControlName control;
   bool visible;
   bool enabled;
 };
@@ -137,11 +137,12 @@ inline constexpr OpeningState kOpeningStates[] = {
     {kTb2Form,         "Txt_4C_Sec_Lat",              true,  true},
     {kTb2Form,         "Txt_4C_NS",                   true,  true},
 };
+static_assert(areOnTheirForms(kOpeningStates, &OpeningState::control));
 
 // Options that are set on opening. A form that has none of them opens without.
 struct OpeningOption {
   FormSet forms;
-  std::string_view option;
+  ControlName option;
   bool forNextNotice;  // set again when the form is emptied
 };
 inline constexpr OpeningOption kOpeningOptions[] = {
@@ -150,11 +151,12 @@ inline constexpr OpeningOption kOpeningOptions[] = {
     {formBit(kTB5),                      "OptInt_WDraw", false},
     {formBit(kTB5),                      "Opt_Art4",     false},
 };
+static_assert(areOnTheirForms(kOpeningOptions, &OpeningOption::option));
 
 // What an empty form shows, whatever emptying the other boxes has made of it.
 struct BlankText {
   FormSet forms;
-  std::string_view box;
+  ControlName box;
   std::string_view text;
 };
 inline constexpr std::string_view kStartOfDay = "0000";
@@ -164,9 +166,10 @@ inline constexpr BlankText kBlankTexts[] = {
     {kAssignmentForms | formBit(kTB2), "Txt_10B_Ophhto", kEndOfDay},
     {kContourForm, "Txt_CountDownTP", ""},
 };
+static_assert(areOnTheirForms(kBlankTexts, &BlankText::box));
 
 // The lists that are filled from a notice.
-inline constexpr std::string_view kNoticeLists[] = {"ListAdmSel", "ListBoxContourID", "ListBox_LMZ04_Coordinates"};
+inline constexpr ControlName kNoticeLists[] = {"ListAdmSel", "ListBoxContourID", "ListBox_LMZ04_Coordinates"};
 // clang-format on
 
 }  // namespace zamo

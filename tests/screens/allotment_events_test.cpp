@@ -15,7 +15,7 @@ class Allotment : public testing::TestWithParam<FormCode> {
  protected:
   Allotment() { loadForm(desk.form); }
 
-  bool leave(std::string_view control) {
+  bool leave(ControlName control) {
     screen.byUser = true;
     const bool allowed = mayLeaveField(desk.form, control);
     screen.byUser = false;
@@ -42,8 +42,9 @@ TEST_P(Allotment, the_sub_areas_open_locked_and_both_ways_are_shown) {
   EXPECT_FALSE(screen.at("FrameSubArea").enabled);
   EXPECT_FALSE(screen.at("Txt_LMZ04_contour_id").enabled);
   EXPECT_FALSE(screen.at("Button_Add_Contour").enabled);
-  for (const char* name : {"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea",
-                           "Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area", "Lbl_LMZ04_or"}) {
+  for (const ControlName name :
+       ControlNames{"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea",
+                    "Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area", "Lbl_LMZ04_or"}) {
     EXPECT_TRUE(screen.isVisible(name)) << name;
   }
 }
@@ -51,7 +52,7 @@ TEST_P(Allotment, the_sub_areas_open_locked_and_both_ways_are_shown) {
 TEST_P(Allotment, a_number_of_sub_areas_hides_the_geographic_area_and_unlocks) {
   desk.work.state.screenIsBlank = true;
   desk.type("Txt_LMZ04_nb_sub_areas", "2");
-  for (const char* name : {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area", "Lbl_LMZ04_or"})
+  for (const ControlName name : ControlNames{"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area", "Lbl_LMZ04_or"})
     EXPECT_FALSE(screen.isVisible(name)) << name;
   EXPECT_TRUE(screen.at("FrameSubArea").enabled);
   EXPECT_TRUE(screen.at("Txt_LMZ04_contour_id").enabled);
@@ -63,7 +64,7 @@ TEST_P(Allotment, emptying_it_shows_the_area_again_and_locks) {
   addContour("5");
   desk.type("Txt_LMZ04_nb_sub_areas", "");
   EXPECT_TRUE(leave("Txt_LMZ04_nb_sub_areas"));
-  for (const char* name : {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area", "Lbl_LMZ04_or"})
+  for (const ControlName name : ControlNames{"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area", "Lbl_LMZ04_or"})
     EXPECT_TRUE(screen.isVisible(name)) << name;
   EXPECT_FALSE(screen.at("FrameSubArea").enabled);
   EXPECT_TRUE(list.empty());
@@ -92,16 +93,16 @@ TEST_P(Allotment, leaving_it_leads_to_an_empty_contour_id) {
 TEST_P(Allotment, a_geographic_area_hides_the_sub_areas) {
   desk.work.state.screenIsBlank = true;
   desk.choose("Combo_LMZ04_geo_area", "F");
-  for (const char* name :
-       {"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea", "Lbl_LMZ04_or"}) {
+  for (const ControlName name :
+       ControlNames{"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea", "Lbl_LMZ04_or"}) {
     EXPECT_FALSE(screen.isVisible(name)) << name;
   }
   EXPECT_FALSE(desk.work.state.screenIsBlank);
   desk.work.state.screenIsBlank = true;
   desk.choose("Combo_LMZ04_geo_area", "");
   EXPECT_TRUE(desk.work.state.screenIsBlank);
-  for (const char* name :
-       {"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea", "Lbl_LMZ04_or"}) {
+  for (const ControlName name :
+       ControlNames{"Txt_LMZ04_nb_sub_areas", "Lbl_LMZ04_nb_sub_areas", "FrameSubArea", "Lbl_LMZ04_or"}) {
     EXPECT_TRUE(screen.isVisible(name)) << name;
   }
 }
@@ -189,7 +190,7 @@ TEST_P(Allotment, intent_and_plan_entry_run_their_rules) {
 }
 
 TEST_P(Allotment, choosing_something_ends_a_blank_screen) {
-  for (const char* combo : {"Combo_9D_Polariz", "Combo_LMZ04_RefPlan"}) {
+  for (const ControlName combo : ControlNames{"Combo_9D_Polariz", "Combo_LMZ04_RefPlan"}) {
     desk.work.state.screenIsBlank = true;
     desk.choose(combo, screen.items(combo).at(1));
     EXPECT_FALSE(desk.work.state.screenIsBlank) << combo;
@@ -210,8 +211,8 @@ TEST_P(Allotment, a_stored_allotment_shows_its_sub_areas_unlocked) {
   EXPECT_FALSE(screen.isVisible("Combo_LMZ04_geo_area"));
 }
 
-constexpr const char* kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
-constexpr const char* kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas", "FrameSubArea"};
+constexpr ControlName kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
+constexpr ControlName kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas", "FrameSubArea"};
 
 class AllotmentOfBothKinds : public Allotment {
  protected:
@@ -224,8 +225,8 @@ class AllotmentOfBothKinds : public Allotment {
   }
 
   void expectSeen(bool wholeCountry, bool subAreas, bool orBetween) {
-    for (const char* name : kWholeCountry) EXPECT_EQ(screen.isVisible(name), wholeCountry) << name;
-    for (const char* name : kSubAreas) EXPECT_EQ(screen.isVisible(name), subAreas) << name;
+    for (const ControlName name : kWholeCountry) EXPECT_EQ(screen.isVisible(name), wholeCountry) << name;
+    for (const ControlName name : kSubAreas) EXPECT_EQ(screen.isVisible(name), subAreas) << name;
     EXPECT_EQ(screen.isVisible("Lbl_LMZ04_or"), orBetween);
   }
 };

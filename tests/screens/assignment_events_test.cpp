@@ -14,10 +14,10 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-const std::vector<std::string> kNumbers = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
+const std::vector<ControlName> kNumbers = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
                                            "Txt_trg_long_SS",    "Txt_trg_lat_DD",  "Txt_trg_lat_MM",
                                            "Txt_trg_lat_SS"};
-const std::vector<std::string> kPlace = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
+const std::vector<ControlName> kPlace = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
                                          "Txt_trg_long_SS",    "Txt_trg_long_EW", "Txt_trg_lat_DD",
                                          "Txt_trg_lat_MM",     "Txt_trg_lat_SS",  "Txt_trg_lat_NS"};
 
@@ -29,12 +29,12 @@ class AssignmentForm : public testing::Test {
     at.work.state.screenIsBlank = false;
   }
 
-  bool isShown(std::string_view control) const { return at.screen.isVisible(control); }
+  bool isShown(ControlName control) const { return at.screen.isVisible(control); }
   // Those of the controls that are hidden.
-  std::set<std::string> hiddenOf(const std::vector<std::string>& controls) const {
+  std::set<std::string> hiddenOf(const std::vector<ControlName>& controls) const {
     std::set<std::string> hidden;
-    for (const std::string& control : controls) {
-      if (!isShown(control)) hidden.insert(control);
+    for (const ControlName control : controls) {
+      if (!isShown(control)) hidden.emplace(control);
     }
     return hidden;
   }
@@ -87,7 +87,7 @@ TEST_P(AssignmentEvents, a_modification_shows_the_target_and_an_addition_hides_i
 
 TEST_P(AssignmentEvents, either_intent_is_followed_by_the_antenna_and_the_article) {
   at.set("Opt_Art4");
-  for (const char* const intent : {"OptInt_Mod", "OptInt_Add"}) {
+  for (const ControlName intent : ControlNames{"OptInt_Mod", "OptInt_Add"}) {
     at.screen.setVisible({"Frame_9NH_AttnH", "Frame_9NV_AttnV", "Frame_Art4_Only"}, false);
     at.set(intent);
     EXPECT_TRUE(isShown("Frame_9NH_AttnH")) << intent;
@@ -175,7 +175,7 @@ TEST_P(AssignmentEvents, typing_the_target_identifier_hides_frequency_and_coordi
 
 TEST_P(AssignmentEvents, each_number_of_the_target_place_hides_the_identifier) {
   openTarget();
-  for (const std::string& box : kNumbers) {
+  for (const ControlName box : kNumbers) {
     SCOPED_TRACE(box);
     at.type(box, "1");
     EXPECT_FALSE(isShown("Txt_TrgAdmRefID"));
@@ -229,7 +229,7 @@ TEST_P(AssignmentEvents, a_stored_target_that_is_named_twice_stays_to_be_seen) {
 }
 
 struct FillButton {
-  const char* button;
+  ControlName button;
   const char* boxes;
   FillGrid grid;
   int hgtMax;
@@ -264,11 +264,11 @@ TEST_P(AssignmentEvents, a_range_is_filled_in_steps_of_ten_degrees) {
     EXPECT_THAT(asked, ElementsAre(Pair(one.grid, one.hgtMax)));
     const std::string boxes = one.boxes;
     EXPECT_EQ(filledBoxes(at.screen), (std::set<std::string>{boxes + "340", boxes + "350"}));
-    EXPECT_EQ(at.screen.text(boxes + "340"), "12");
-    EXPECT_EQ(at.screen.text(boxes + "350"), "12");
+    EXPECT_EQ(at.screen.text(madeName(boxes + "340")), "12");
+    EXPECT_EQ(at.screen.text(madeName(boxes + "350")), "12");
     expectBlank(false);
-    at.type(boxes + "340", "");
-    at.type(boxes + "350", "");
+    at.type(madeName(boxes + "340"), "");
+    at.type(madeName(boxes + "350"), "");
   }
   EXPECT_THAT(at.script.boxes, IsEmpty());
 }
@@ -355,7 +355,8 @@ TEST_F(TelevisionAssignmentEvents, a_planning_configuration_hides_the_system) {
 
 TEST_F(TelevisionAssignmentEvents, a_system_variant_or_a_reception_mode_hides_the_planning_configuration) {
   at.set("Opt_Art4");
-  for (const auto& [combo, item] : {std::pair("Combo_LMZ04_Sys_Var", "C3"), {"Combo_LMZ04_RxMode", "FX"}}) {
+  for (const auto& [combo, item] : {std::pair(ControlName("Combo_LMZ04_Sys_Var"), "C3"),
+                                    std::pair(ControlName("Combo_LMZ04_RxMode"), "FX")}) {
     SCOPED_TRACE(combo);
     at.work.state.screenIsBlank = true;
     at.choose(combo, item);
@@ -367,7 +368,8 @@ TEST_F(TelevisionAssignmentEvents, a_system_variant_or_a_reception_mode_hides_th
 }
 
 TEST_F(TelevisionAssignmentEvents, an_empty_planning_or_system_makes_no_blank_screen) {
-  for (const char* const combo : {"Combo_LMZ04_RefPlan", "Combo_LMZ04_Sys_Var", "Combo_LMZ04_RxMode"}) {
+  for (const ControlName combo :
+       ControlNames{"Combo_LMZ04_RefPlan", "Combo_LMZ04_Sys_Var", "Combo_LMZ04_RxMode"}) {
     at.work.state.screenIsBlank = true;
     at.click(combo);
     expectBlank(false);
@@ -377,7 +379,7 @@ TEST_F(TelevisionAssignmentEvents, an_empty_planning_or_system_makes_no_blank_sc
 TEST_F(TelevisionAssignmentEvents, either_intent_is_followed_by_the_planning_rule) {
   at.set("Opt_Art4");
   at.choose("Combo_LMZ04_RefPlan", "RPC1");
-  for (const char* const intent : {"OptInt_Mod", "OptInt_Add"}) {
+  for (const ControlName intent : ControlNames{"OptInt_Mod", "OptInt_Add"}) {
     at.screen.setVisible("Combo_LMZ04_Sys_Var", true);
     at.set(intent);
     EXPECT_FALSE(isShown("Combo_LMZ04_Sys_Var")) << intent;

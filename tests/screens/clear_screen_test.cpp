@@ -34,19 +34,20 @@ void spoil(Screen& screen) {
   std::vector<Control> controls;
   screen.forEach([&controls](const Control& control) { controls.push_back(control); });
   for (const Control& control : controls) {
+    const ControlName name = madeName(control.name);
     switch (control.kind) {
       case ControlKind::combo:
-        screen.choose(control.name, static_cast<int>(control.items.size()) - 1);
+        screen.choose(name, static_cast<int>(control.items.size()) - 1);
         break;
       case ControlKind::list:
-        if (control.name != "ListAdmAvail") screen.setItems(control.name, {"one", "two"});
+        if (control.name != "ListAdmAvail") screen.setItems(name, {"one", "two"});
         break;
       case ControlKind::option:
-        screen.setOption(control.name);
+        screen.setOption(name);
         break;
       case ControlKind::text:
       case ControlKind::memo:
-        screen.setText(control.name, "9");
+        screen.setText(name, "9");
         break;
       default:
         break;
@@ -55,7 +56,7 @@ void spoil(Screen& screen) {
 }
 
 // Controls of the notice that some rule, filler or event hides, renames or disables.
-const std::map<FormCode, std::vector<std::string>> kTouched = {
+const std::map<FormCode, std::vector<ControlName>> kTouched = {
     {kGS1Assign,
      {"Txt_TrgAdmRefID",
       "Lbl_TrgAdmRefID",
@@ -103,8 +104,8 @@ class ClearScreen : public testing::TestWithParam<std::tuple<FormCode, bool>> {
   // A form as it opens, but for what is told here.
   std::map<std::string, std::string> expectedStates() {
     std::map<std::string, std::string> expected = statesOf(fresh);
-    const auto unset = [&](const std::string& option, const std::string& caption) {
-      if (fresh.has(option)) expected[option] = caption + "||-1|";
+    const auto unset = [&](ControlName option, const std::string& caption) {
+      if (fresh.has(option)) expected[std::string(option)] = caption + "||-1|";
     };
     if (code() != kGA1SubAllot) unset("OptInt_Add", "Add");
     if (code() == kTB5) {
@@ -144,16 +145,16 @@ TEST_P(ClearScreen, nothing_of_a_complete_notice_is_left) {
 TEST_P(ClearScreen, what_was_hidden_or_disabled_for_a_notice_is_as_on_opening) {
   const auto touched = kTouched.find(code());
   if (touched != kTouched.end()) {
-    for (const std::string& control : touched->second) at.screen.setVisible(control, false);
+    for (const ControlName control : touched->second) at.screen.setVisible(control, false);
   }
   if (at.screen.has("txt_int_rmk") && isOneOf(code(), kTbForms)) {
     at.screen.setVisible({"txt_int_rmk", "Lbl_int_rmk"}, true);
   }
   if (code() == kGA1SubAllot) {
     at.screen.setEnabled("Combo_4B_Ctry", false);
-    for (const char* button :
-         {"Button_View", "Button_Del_Coordinates", "Button_Upd_Coordinates", "Button_Ins_Coordinates",
-          "Button_Add_Coordinates", "Button_ClearAll_Coordinates"}) {
+    for (const ControlName button :
+         ControlNames{"Button_View", "Button_Del_Coordinates", "Button_Upd_Coordinates",
+                      "Button_Ins_Coordinates", "Button_Add_Coordinates", "Button_ClearAll_Coordinates"}) {
       at.screen.setEnabled(button, true);
     }
   }
@@ -181,7 +182,7 @@ TEST_P(ClearScreen, the_lists_to_choose_from_stay) {
   clearScreen(at.screen);
   at.screen.forEach([this](const Control& control) {
     if (control.kind == ControlKind::combo || control.name == "ListAdmAvail") {
-      EXPECT_EQ(control.items, fresh.items(control.name)) << control.name;
+      EXPECT_EQ(control.items, fresh.items(madeName(control.name))) << control.name;
       EXPECT_FALSE(control.items.empty()) << control.name;
     }
   });

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "screens/control_table.h"
+#include "screens/control_text.h"
 #include "screens/screen.h"
 
 namespace zamo::test {
@@ -33,17 +34,18 @@ inline void putOne(Screen& screen, const Entry& entry) {
   if (entry.control.ends_with('*')) {
     const std::string grid = entry.control.substr(0, entry.control.size() - 1);
     for (int azimuth = 0; azimuth < 360; azimuth += 10) {
-      screen.setText(grid + std::to_string(1000 + azimuth).substr(1), entry.text);
+      screen.setText(madeName(grid + std::to_string(1000 + azimuth).substr(1)), entry.text);
     }
     return;
   }
-  switch (screen.at(entry.control).kind) {
+  const ControlName control = madeName(entry.control);
+  switch (screen.at(control).kind) {
     case ControlKind::option:
-      return entry.text == "set" ? screen.setOption(entry.control) : screen.unsetOption(entry.control);
+      return entry.text == "set" ? screen.setOption(control) : screen.unsetOption(control);
     case ControlKind::list:
-      return screen.setItems(entry.control, itemsOf(entry.text));
+      return screen.setItems(control, itemsOf(entry.text));
     default:
-      return screen.setText(entry.control, entry.text);
+      return screen.setText(control, entry.text);
   }
 }
 

@@ -11,9 +11,9 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const char* const kBoxes[] = {"Txt_LMZ04_Deg_Long", "Txt_LMZ04_Min_Long", "Txt_LMZ04_Sec_Long",
-                              "Txt_LMZ04_EW",       "Txt_LMZ04_Deg_Lat",  "Txt_LMZ04_Min_Lat",
-                              "Txt_LMZ04_Sec_Lat",  "Txt_LMZ04_NS"};
+constexpr ControlName kBoxes[] = {"Txt_LMZ04_Deg_Long", "Txt_LMZ04_Min_Long", "Txt_LMZ04_Sec_Long",
+                                  "Txt_LMZ04_EW",       "Txt_LMZ04_Deg_Lat",  "Txt_LMZ04_Min_Lat",
+                                  "Txt_LMZ04_Sec_Lat",  "Txt_LMZ04_NS"};
 
 class Contour : public testing::Test {
  protected:
@@ -35,7 +35,7 @@ class Contour : public testing::Test {
     desk.type("Txt_LMZ04_nb_test_pts", std::to_string(count));
     for (int i = 1; i <= count; ++i) addPoint(std::to_string(i));
   }
-  bool leave(std::string_view control) {
+  bool leave(ControlName control) {
     screen.byUser = true;
     const bool allowed = mayLeaveField(desk.form, control);
     screen.byUser = false;
@@ -46,9 +46,9 @@ class Contour : public testing::Test {
     EXPECT_EQ(desk.script.boxes[0].text, text);
     desk.script.boxes.clear();
   }
-  bool isEnabled(const char* control) { return screen.at(control).enabled; }
+  bool isEnabled(ControlName control) { return screen.at(control).enabled; }
   bool boxesAreEmpty() {
-    for (const char* box : kBoxes) {
+    for (const ControlName box : kBoxes) {
       if (!screen.isEmpty(box)) return false;
     }
     return true;
@@ -89,7 +89,7 @@ TEST_F(Contour, a_point_whose_parts_have_not_their_width_is_refused_and_nothing_
       typePoint(point);
       EXPECT_TRUE(leave(kBoxes[wrong.box]));
       EXPECT_TRUE(desk.script.boxes.empty());
-      for (const char* button : {"Button_Add_Coordinates", "Button_Ins_Coordinates"}) {
+      for (const ControlName button : ControlNames{"Button_Add_Coordinates", "Button_Ins_Coordinates"}) {
         desk.click(button);
         expectBox(wrong.told);
         EXPECT_EQ(list, Texts{});
@@ -113,9 +113,9 @@ TEST_F(Contour, after_an_added_point_the_next_one_is_typed_at_once) {
 }
 
 TEST_F(Contour, the_form_opens_locked_with_nothing_to_press) {
-  for (const char* button :
-       {"Button_View", "Button_Del_Coordinates", "Button_Upd_Coordinates", "Button_Ins_Coordinates",
-        "Button_Add_Coordinates", "Button_ClearAll_Coordinates"}) {
+  for (const ControlName button :
+       ControlNames{"Button_View", "Button_Del_Coordinates", "Button_Upd_Coordinates",
+                    "Button_Ins_Coordinates", "Button_Add_Coordinates", "Button_ClearAll_Coordinates"}) {
     EXPECT_FALSE(isEnabled(button)) << button;
   }
   EXPECT_TRUE(screen.isSet("OptInt_Add"));
@@ -183,7 +183,8 @@ TEST_F(Contour, a_number_of_five_digits_is_refused) {
 TEST_F(Contour, eight_boxes_enable_the_buttons) {
   desk.type("Txt_LMZ04_nb_test_pts", "3");
   typePoint({"2", "24", "10", "E", "47", "5", "30"});
-  for (const char* button : {"Button_Add_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"})
+  for (const ControlName button :
+       ControlNames{"Button_Add_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"})
     EXPECT_FALSE(isEnabled(button)) << button;
   desk.type("Txt_LMZ04_NS", "N");
   EXPECT_TRUE(isEnabled("Button_Add_Coordinates"));
@@ -241,8 +242,8 @@ TEST_F(Contour, a_point_is_padded_and_added_at_the_end) {
   EXPECT_TRUE(boxesAreEmpty());
   EXPECT_TRUE(isEnabled("Button_View"));
   EXPECT_TRUE(isEnabled("Button_ClearAll_Coordinates"));
-  for (const char* button : {"Button_Add_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates",
-                             "Button_Del_Coordinates"}) {
+  for (const ControlName button : ControlNames{"Button_Add_Coordinates", "Button_Ins_Coordinates",
+                                               "Button_Upd_Coordinates", "Button_Del_Coordinates"}) {
     EXPECT_FALSE(isEnabled(button)) << button;
   }
   addPoint("3");
@@ -312,7 +313,8 @@ TEST_F(Contour, a_click_shows_the_point_in_the_boxes) {
   EXPECT_EQ(screen.text("Txt_LMZ04_Min_Lat"), "05");
   EXPECT_EQ(screen.text("Txt_LMZ04_Sec_Lat"), "30");
   EXPECT_EQ(screen.text("Txt_LMZ04_NS"), "N");
-  for (const char* button : {"Button_Del_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"}) {
+  for (const ControlName button :
+       ControlNames{"Button_Del_Coordinates", "Button_Ins_Coordinates", "Button_Upd_Coordinates"}) {
     EXPECT_TRUE(isEnabled(button)) << button;
   }
 }

@@ -33,8 +33,8 @@ TEST(ControlTable, each_form_has_its_controls_with_their_captions_and_tips_and_n
     std::vector<std::string> names;
     for (const auto& [name, row] : expected) {
       names.push_back(name);
-      ASSERT_TRUE(screen.has(name)) << name;
-      const Control& control = screen.at(name);
+      ASSERT_TRUE(screen.has(madeName(name))) << name;
+      const Control& control = screen.at(madeName(name));
       EXPECT_EQ(control.kind, row.kind) << name;
       EXPECT_EQ(control.caption, row.caption) << name;
       EXPECT_EQ(control.tip, row.tip) << name;
@@ -125,7 +125,7 @@ TEST(ControlTable, short_lists_are_told_whole) {
     makeControls(screen);
     for (const ExpectedList& row : kShortLists) {
       if (!isOneOf(code, row.forms)) continue;
-      EXPECT_EQ(screen.items(row.name), row.items) << row.name;
+      EXPECT_EQ(screen.items(madeName(row.name)), row.items) << row.name;
     }
   }
 }
@@ -141,7 +141,7 @@ TEST(ControlTable, lists_of_codes_begin_with_the_empty_row_and_have_no_unused_pl
     for (const CodeList& row : kCodeLists) {
       if (!isOneOf(code, row.forms)) continue;
       SCOPED_TRACE(row.name);
-      const Items& items = screen.items(row.name);
+      const Items& items = screen.items(madeName(row.name));
       ASSERT_EQ(items.size(), row.rows);
       EXPECT_EQ(items[0], "");
       EXPECT_EQ(items[1], "AFS");

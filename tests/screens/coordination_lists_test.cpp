@@ -18,7 +18,7 @@ class CoordinationLists : public testing::TestWithParam<FormCode> {
     resetCoordinationLists(at.screen);
   }
 
-  void pick(std::string_view list, std::string_view item) {
+  void pick(ControlName list, std::string_view item) {
     at.choose(list, item);
     at.click(list);
   }
@@ -27,7 +27,7 @@ class CoordinationLists : public testing::TestWithParam<FormCode> {
     at.click("Button_Coord_Add");
   }
   const std::vector<std::string>& selected() const { return at.screen.items("ListAdmSel"); }
-  bool isEnabled(std::string_view button) const { return at.screen.at(button).enabled; }
+  bool isEnabled(ControlName button) const { return at.screen.at(button).enabled; }
 
   FormAtWork at{GetParam()};
 };

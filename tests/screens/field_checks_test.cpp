@@ -121,7 +121,7 @@ const std::vector<FreeField> kAnythingGoes = {
 // clang-format on
 
 template <typename Field>
-bool has(const std::vector<Field>& fields, FormCode code, const std::string& control) {
+bool has(const std::vector<Field>& fields, FormCode code, std::string_view control) {
   return std::any_of(fields.begin(), fields.end(), [&](const Field& field) {
     return isOneOf(code, field.forms) && field.control == control;
   });
@@ -134,7 +134,7 @@ class FieldChecks : public testing::Test {
   }
 
   // Leaves the field with the value.
-  bool leave(FormAtWork& at, const std::string& control, const std::string& value) {
+  bool leave(FormAtWork& at, ControlName control, const std::string& value) {
     at.script.boxes.clear();
     at.script.beeps = 0;
     at.work.state.screenIsBlank = true;
@@ -145,8 +145,8 @@ class FieldChecks : public testing::Test {
     return left;
   }
 
-  void expectAccepted(FormAtWork& at, const std::string& control, const std::string& value) {
-    SCOPED_TRACE(control + " \"" + value + "\" on form " + std::to_string(at.screen.code()));
+  void expectAccepted(FormAtWork& at, ControlName control, const std::string& value) {
+    SCOPED_TRACE(std::string(control) + " \"" + value + "\" on form " + std::to_string(at.screen.code()));
     EXPECT_TRUE(leave(at, control, value));
     EXPECT_TRUE(at.script.boxes.empty());
     EXPECT_EQ(at.script.beeps, 0);
@@ -156,9 +156,9 @@ class FieldChecks : public testing::Test {
     at.screen.setText(control, "");
   }
 
-  void expectRefused(FormAtWork& at, const std::string& control, const std::string& value,
-                     const std::string& title, const std::string& text, int beeps = 0) {
-    SCOPED_TRACE(control + " \"" + value + "\" on form " + std::to_string(at.screen.code()));
+  void expectRefused(FormAtWork& at, ControlName control, const std::string& value, const std::string& title,
+                     const std::string& text, int beeps = 0) {
+    SCOPED_TRACE(std::string(control) + " \"" + value + "\" on form " + std::to_string(at.screen.code()));
     EXPECT_FALSE(leave(at, control, value));
     ASSERT_EQ(at.script.boxes.size(), 1U);
     EXPECT_EQ(at.script.boxes[0].title, title);
@@ -180,7 +180,7 @@ TEST_F(FieldChecks, values_up_to_the_limits_are_accepted) {
   for (const FieldCase& field : kCases) {
     for (const auto& [code, at] : forms) {
       if (!isOneOf(code, field.forms)) continue;
-      for (const std::string& value : field.accepted) expectAccepted(*at, field.control, value);
+      for (const std::string& value : field.accepted) expectAccepted(*at, madeName(field.control), value);
     }
   }
 }
@@ -190,7 +190,7 @@ TEST_F(FieldChecks, values_beyond_the_limits_give_one_box_each) {
     for (const auto& [code, at] : forms) {
       if (!isOneOf(code, field.forms)) continue;
       for (const std::string& value : field.refused) {
-        expectRefused(*at, field.control, value, field.title, field.text, field.beeps);
+        expectRefused(*at, madeName(field.control), value, field.title, field.text, field.beeps);
       }
     }
   }
@@ -201,10 +201,10 @@ TEST_F(FieldChecks, empty_fields_are_accepted_and_leave_the_screen_as_blank_as_i
     for (const auto& [code, at] : forms) {
       if (!isOneOf(code, field.forms)) continue;
       SCOPED_TRACE(field.control);
-      EXPECT_TRUE(leave(*at, field.control, ""));
+      EXPECT_TRUE(leave(*at, madeName(field.control), ""));
       EXPECT_TRUE(at->script.boxes.empty());
       EXPECT_TRUE(at->work.state.screenIsBlank);
-      EXPECT_TRUE(isAcceptable(at->screen, field.control));
+      EXPECT_TRUE(isAcceptable(at->screen, madeName(field.control)));
     }
   }
 }
@@ -215,10 +215,11 @@ TEST_F(FieldChecks, every_row_has_a_case_with_its_words) {
     for (const FormCode code : kFormCodes) {
       if (!isOneOf(code, check.forms)) continue;
       const auto isItsCase = [&](const FieldCase& field) {
-        return isOneOf(code, field.forms) && field.control.starts_with(check.control) &&
+        return isOneOf(code, field.forms) && field.control.starts_with(std::string_view(check.control)) &&
                field.title == check.title && field.text == check.message;
       };
-      EXPECT_TRUE(std::any_of(kCases.begin(), kCases.end(), isItsCase)) << check.control << " on " << code;
+      EXPECT_TRUE(std::any_of(kCases.begin(), kCases.end(), isItsCase))
+          << std::string_view(check.control) << " on " << code;
     }
   }
 }
@@ -226,10 +227,10 @@ TEST_F(FieldChecks, every_row_has_a_case_with_its_words) {
 TEST_F(FieldChecks, every_case_is_on_its_form) {
   for (const auto& [code, at] : forms) {
     for (const FieldCase& field : kCases) {
-      EXPECT_TRUE(!isOneOf(code, field.forms) || at->screen.has(field.control)) << field.control;
+      EXPECT_TRUE(!isOneOf(code, field.forms) || at->screen.has(madeName(field.control))) << field.control;
     }
     for (const FreeField& field : kAnythingGoes) {
-      EXPECT_TRUE(!isOneOf(code, field.forms) || at->screen.has(field.control)) << field.control;
+      EXPECT_TRUE(!isOneOf(code, field.forms) || at->screen.has(madeName(field.control))) << field.control;
     }
   }
 }
@@ -237,7 +238,7 @@ TEST_F(FieldChecks, every_case_is_on_its_form) {
 TEST_F(FieldChecks, identifiers_and_names_only_tell_that_something_stands_on_the_screen) {
   for (const FreeField& field : kAnythingGoes) {
     for (const auto& [code, at] : forms) {
-      if (isOneOf(code, field.forms)) expectAccepted(*at, field.control, "1x,.?");
+      if (isOneOf(code, field.forms)) expectAccepted(*at, madeName(field.control), "1x,.?");
     }
   }
 }
@@ -255,19 +256,19 @@ TEST_F(FieldChecks, no_other_field_is_checked) {
     });
     for (const std::string& control : others) {
       SCOPED_TRACE(control + " on form " + std::to_string(code));
-      EXPECT_TRUE(leave(*at, control, "1x,.?"));
+      EXPECT_TRUE(leave(*at, madeName(control), "1x,.?"));
       EXPECT_TRUE(at->script.boxes.empty());
       EXPECT_TRUE(at->work.state.screenIsBlank);
-      EXPECT_EQ(at->screen.text(control), "1x,.?");
-      EXPECT_TRUE(isAcceptable(at->screen, control));
+      EXPECT_EQ(at->screen.text(madeName(control)), "1x,.?");
+      EXPECT_TRUE(isAcceptable(at->screen, madeName(control)));
     }
   }
 }
 
 TEST_F(FieldChecks, fields_without_a_check_on_their_form_are_those_that_are_told) {
   const FormAtWork& at = *forms[kGT1Assign];
-  for (const char* const control : {"Txt_3A1_CallSign", "Txt_PlanAdm_RefID", "Txt_EmailAddr",
-                                    "Txt_notified_Rmks", "Txt_KV19_assoc_allot_sfnID"}) {
+  for (const ControlName control : ControlNames{"Txt_3A1_CallSign", "Txt_PlanAdm_RefID", "Txt_EmailAddr",
+                                                "Txt_notified_Rmks", "Txt_KV19_assoc_allot_sfnID"}) {
     EXPECT_TRUE(at.screen.has(control)) << control;
     EXPECT_FALSE(has(kCases, kGT1Assign, control) || has(kAnythingGoes, kGT1Assign, control)) << control;
   }
@@ -275,8 +276,8 @@ TEST_F(FieldChecks, fields_without_a_check_on_their_form_are_those_that_are_told
 
 TEST_F(FieldChecks, a_control_that_the_form_does_not_have_may_be_left) {
   FormAtWork& at = *forms[kTB5];
-  EXPECT_TRUE(mayLeaveField(at.form, "qt_spinbox_lineedit"));
-  EXPECT_TRUE(isAcceptable(at.screen, "qt_spinbox_lineedit"));
+  EXPECT_TRUE(mayLeaveField(at.form, madeName("qt_spinbox_lineedit")));
+  EXPECT_TRUE(isAcceptable(at.screen, madeName("qt_spinbox_lineedit")));
   EXPECT_TRUE(at.script.boxes.empty());
 }
 
@@ -302,7 +303,7 @@ TEST_F(FieldChecks, a_single_height_is_not_compared_with_9eb) {
 
 TEST_F(FieldChecks, short_times_are_asked_for_as_hhmm_under_the_title_of_the_start_time) {
   for (const FormCode code : {kGS1Assign, kGT1Assign}) {
-    for (const char* const control : {"Txt_10B_Ophhfr", "Txt_10B_Ophhto"}) {
+    for (const ControlName control : ControlNames{"Txt_10B_Ophhfr", "Txt_10B_Ophhto"}) {
       for (const char* const value : {"930", "1", "9:3", "xy"}) {
         expectRefused(*forms[code], control, value, "Prevalidation Error - Start time",
                       "The time must be entered as HHMM");
@@ -380,12 +381,12 @@ TEST_F(FieldChecks, a_day_that_is_not_in_the_calendar_is_refused_in_each_of_the_
     for (const auto& [code, at] : forms) {
       if (!isOneOf(code, date.forms)) continue;
       for (const char* const part : {"DD", "MM", "YY"}) {
-        at->screen.setText(date.boxes + "DD", "31");
-        at->screen.setText(date.boxes + "MM", "2");
-        at->screen.setText(date.boxes + "YY", "2005");
+        at->screen.setText(madeName(date.boxes + "DD"), "31");
+        at->screen.setText(madeName(date.boxes + "MM"), "2");
+        at->screen.setText(madeName(date.boxes + "YY"), "2005");
         const std::string box = date.boxes + part;
-        expectRefused(*at, box, std::string(at->screen.text(box)), "Prevalidation Error - InValid Date",
-                      "Invalid date");
+        expectRefused(*at, madeName(box), std::string(at->screen.text(madeName(box))),
+                      "Prevalidation Error - InValid Date", "Invalid date");
       }
     }
   }
@@ -396,11 +397,11 @@ TEST_F(FieldChecks, a_day_of_the_calendar_is_accepted_in_each_of_the_three_boxes
     for (const auto& [code, at] : forms) {
       if (!isOneOf(code, date.forms)) continue;
       for (const char* const part : {"DD", "MM", "YY"}) {
-        at->screen.setText(date.boxes + "DD", "29");
-        at->screen.setText(date.boxes + "MM", "02");
-        at->screen.setText(date.boxes + "YY", "2004");
+        at->screen.setText(madeName(date.boxes + "DD"), "29");
+        at->screen.setText(madeName(date.boxes + "MM"), "02");
+        at->screen.setText(madeName(date.boxes + "YY"), "2004");
         const std::string box = date.boxes + part;
-        expectAccepted(*at, box, std::string(at->screen.text(box)));
+        expectAccepted(*at, madeName(box), std::string(at->screen.text(madeName(box))));
       }
     }
   }
@@ -410,11 +411,11 @@ TEST_F(FieldChecks, a_date_is_looked_up_in_the_calendar_only_when_it_is_whole) {
   for (const DateCase& date : kDates) {
     for (const auto& [code, at] : forms) {
       if (!isOneOf(code, date.forms)) continue;
-      at->screen.setText(date.boxes + "MM", "2");
-      expectAccepted(*at, date.boxes + "DD", "31");
-      at->screen.setText(date.boxes + "YY", "2005");
-      at->screen.setText(date.boxes + "DD", "31");
-      EXPECT_TRUE(leave(*at, date.boxes + "MM", "")) << "an emptied box is accepted";
+      at->screen.setText(madeName(date.boxes + "MM"), "2");
+      expectAccepted(*at, madeName(date.boxes + "DD"), "31");
+      at->screen.setText(madeName(date.boxes + "YY"), "2005");
+      at->screen.setText(madeName(date.boxes + "DD"), "31");
+      EXPECT_TRUE(leave(*at, madeName(date.boxes + "MM"), "")) << "an emptied box is accepted";
       EXPECT_TRUE(at->script.boxes.empty());
     }
   }

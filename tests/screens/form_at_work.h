@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "screens/control_table.h"
+#include "screens/control_text.h"
 #include "screens/form_events.h"
 #include "screens/notice_form.h"
 #include "support/scripted_host.h"
@@ -25,19 +26,19 @@ struct FormAtWork {
   ~FormAtWork() = default;
 
   // What the user's hand does.
-  void type(std::string_view control, std::string_view text) {
+  void type(ControlName control, std::string_view text) {
     screen.byUser = true;
     screen.setText(control, text);
     screen.byUser = false;
   }
-  void click(std::string_view control) { act(Event::click, control); }
-  void doubleClick(std::string_view control) { act(Event::doubleClick, control); }
-  void set(std::string_view option) {
+  void click(ControlName control) { act(Event::click, control); }
+  void doubleClick(ControlName control) { act(Event::doubleClick, control); }
+  void set(ControlName option) {
     screen.byUser = true;
     screen.setOption(option);
     screen.byUser = false;
   }
-  void choose(std::string_view control, std::string_view item) {
+  void choose(ControlName control, std::string_view item) {
     screen.byUser = true;
     screen.chooseText(control, item);
     screen.byUser = false;
@@ -53,7 +54,7 @@ struct FormAtWork {
   std::vector<std::string> focus;  // the controls that it went to
 
  private:
-  void act(Event event, std::string_view control) {
+  void act(Event event, ControlName control) {
     screen.byUser = true;
     screen.raise(event, control);
     screen.byUser = false;

@@ -80,10 +80,10 @@ TEST(ScreenMapping, each_grid_is_filled_when_its_plane_radiates_and_not_alike_al
       bare.fill(withGrids(one));
       for (int i = 0; i < 36; ++i) {
         const Screen& screen = bare.screen;
-        EXPECT_EQ(screen.text(boxOf("Txt_9EC_azm", i * 10)), std::to_string(100 + i));
-        EXPECT_EQ(screen.text(boxOf("Txt_9NHAzm", i * 10)), one.h ? std::to_string(200 + i) : "")
+        EXPECT_EQ(screen.text(madeName(boxOf("Txt_9EC_azm", i * 10))), std::to_string(100 + i));
+        EXPECT_EQ(screen.text(madeName(boxOf("Txt_9NHAzm", i * 10))), one.h ? std::to_string(200 + i) : "")
             << one.polar << one.antDir;
-        EXPECT_EQ(screen.text(boxOf("Txt_9NVAzm", i * 10)), one.v ? std::to_string(300 + i) : "")
+        EXPECT_EQ(screen.text(madeName(boxOf("Txt_9NVAzm", i * 10))), one.v ? std::to_string(300 + i) : "")
             << one.polar << one.antDir;
       }
     }
@@ -98,9 +98,9 @@ TEST(ScreenMapping, each_grid_is_read_by_what_the_combos_show) {
       bare.screen.setText("Combo_9D_Polariz", one.polar);
       bare.screen.setText("Combo_9_AntDir", one.antDir);
       for (int i = 0; i < 36; ++i) {
-        bare.screen.setText(boxOf("Txt_9EC_azm", i * 10), std::to_string(100 + i));
-        bare.screen.setText(boxOf("Txt_9NHAzm", i * 10), std::to_string(200 + i));
-        bare.screen.setText(boxOf("Txt_9NVAzm", i * 10), std::to_string(300 + i));
+        bare.screen.setText(madeName(boxOf("Txt_9EC_azm", i * 10)), std::to_string(100 + i));
+        bare.screen.setText(madeName(boxOf("Txt_9NHAzm", i * 10)), std::to_string(200 + i));
+        bare.screen.setText(madeName(boxOf("Txt_9NVAzm", i * 10)), std::to_string(300 + i));
       }
       const NtcRec ntc = bare.read();
       EXPECT_TRUE(ntc.ant_hgt == numbered(100)) << one.polar << one.antDir;

@@ -88,9 +88,9 @@ inline Contents addedTo(const Contents& before, const Contents& now) {
 inline void setDate(Screen& screen, const std::string& boxes, const std::string& date) {
   const std::size_t first = date.find('.');
   const std::size_t second = date.find('.', first + 1);
-  screen.setText(boxes + "DD", date.substr(0, first));
-  screen.setText(boxes + "MM", date.substr(first + 1, second - first - 1));
-  screen.setText(boxes + "YY", date.substr(second + 1));
+  screen.setText(madeName(boxes + "DD"), date.substr(0, first));
+  screen.setText(madeName(boxes + "MM"), date.substr(first + 1, second - first - 1));
+  screen.setText(madeName(boxes + "YY"), date.substr(second + 1));
 }
 
 }  // namespace zamo::test

@@ -50,12 +50,12 @@ class NoticeDesk : public NoticeSelection {
     --shownNow;
   }
 
-  static void click(NoticeForm& form, std::string_view button) {
+  static void click(NoticeForm& form, ControlName button) {
     form.screen.byUser = true;
     form.screen.raise(Event::click, button);
     form.screen.byUser = false;
   }
-  static void type(NoticeForm& form, std::string_view control, std::string_view text) {
+  static void type(NoticeForm& form, ControlName control, std::string_view text) {
     form.screen.byUser = true;
     form.screen.setText(control, text);
     form.screen.byUser = false;

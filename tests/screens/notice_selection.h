@@ -15,6 +15,7 @@
 #include "database/read_notice.h"
 #include "database/write_notice.h"
 #include "model/ntc_reset.h"
+#include "screens/control_text.h"
 #include "screens/notice_form.h"
 #include "screens/notice_walk.h"
 #include "support/places.h"

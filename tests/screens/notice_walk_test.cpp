@@ -281,7 +281,7 @@ TEST_F(OpenNotice, what_was_clicked_on_one_notice_is_forgotten_on_the_next) {
 TEST_F(OpenNotice, beyond_the_ends_of_the_selection_the_notice_stays) {
   const std::int32_t key = add("GT1");
   open(0, [&](NoticeForm& form) {
-    for (const char* button : {"Button_Next_Ntc", "Button_Prev_Ntc"}) {
+    for (const ControlName button : ControlNames{"Button_Next_Ntc", "Button_Prev_Ntc"}) {
       click(form, button);
       EXPECT_EQ(form.screen.text("Txt_AdmRefID"), "F-0001") << button;
       EXPECT_FALSE(closed) << button;

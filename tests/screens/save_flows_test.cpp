@@ -40,7 +40,7 @@ TEST_F(SaveFlows, an_assignment_without_an_article_is_refused_first) {
   add("GT1");
   open(0, [&](NoticeForm& form) {
     form.screen.unsetOption("Opt_Art4");
-    for (const char* button : {"Button_Validate", "Button_Next", "Button_AddNew"}) {
+    for (const ControlName button : ControlNames{"Button_Validate", "Button_Next", "Button_AddNew"}) {
       click(form, button);
       expectBoxes({"Select Article: Please select under which article this assignment is been submitted"});
       script.boxes.clear();
@@ -54,7 +54,7 @@ TEST_F(SaveFlows, a_form_that_identifies_nothing_is_refused) {
   add("TB3");
   open(0, [&](NoticeForm& form) {
     type(form, "Txt_TrgAdmRefID", "");
-    for (const char* button : {"Button_Validate", "Button_Next", "Button_AddNew"}) {
+    for (const ControlName button : ControlNames{"Button_Validate", "Button_Next", "Button_AddNew"}) {
       click(form, button);
       expectBoxes({"Missing values: Not enough fields to validate"});
       script.boxes.clear();
@@ -67,7 +67,7 @@ TEST_F(SaveFlows, a_blank_screen_is_refused_like_one_with_too_few_fields) {
   add("GS1");
   open(0, [&](NoticeForm& form) {
     work.state.screenIsBlank = true;
-    for (const char* button : {"Button_Validate", "Button_Next", "Button_AddNew"}) {
+    for (const ControlName button : ControlNames{"Button_Validate", "Button_Next", "Button_AddNew"}) {
       click(form, button);
       expectBoxes({"Missing values: Not enough fields to validate"});
       script.boxes.clear();

@@ -270,7 +270,7 @@ TEST_F(TbSaveRules, the_lines_come_in_their_order) {
 
 struct EnoughCase {
   FormCode code;
-  std::vector<std::string> fields;
+  std::vector<ControlName> fields;
 };
 
 // clang-format off
@@ -288,7 +288,7 @@ const std::vector<EnoughCase> kEnough = {
 
 TEST(EnoughFields, one_identifying_field_is_enough) {
   for (const EnoughCase& one : kEnough) {
-    for (const std::string& field : one.fields) {
+    for (const ControlName field : one.fields) {
       Screen screen(one.code);
       makeControls(screen);
       EXPECT_FALSE(hasEnoughFields(screen)) << one.code;
@@ -307,8 +307,8 @@ TEST(EnoughFields, everything_else_is_not_enough) {
     screen.forEach([&boxes](const Control& control) {
       if (control.kind == ControlKind::text) boxes.push_back(control.name);
     });
-    for (const std::string& box : boxes) screen.setText(box, "1");
-    for (const std::string& field : one.fields) screen.setText(field, "");
+    for (const std::string& box : boxes) screen.setText(madeName(box), "1");
+    for (const ControlName field : one.fields) screen.setText(field, "");
     EXPECT_FALSE(hasEnoughFields(screen)) << one.code;
   }
 }

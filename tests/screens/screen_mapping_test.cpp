@@ -155,7 +155,7 @@ TEST(ScreenMapping, internal_remarks_are_shown_when_there_are_some) {
 
 TEST(ScreenMapping, internal_remarks_are_read_only_where_the_box_and_its_label_show) {
   for (const std::string& type : kWithInternalRemarks) {
-    for (const char* hidden : {"txt_int_rmk", "Lbl_int_rmk"}) {
+    for (const ControlName hidden : ControlNames{"txt_int_rmk", "Lbl_int_rmk"}) {
       BareScreen bare(type);
       bare.screen.setText("txt_int_rmk", "seen");
       bare.screen.setVisible(hidden, false);
@@ -219,7 +219,7 @@ TEST(ScreenMapping, a_caption_of_a_recorded_entry_goes_with_the_next_intent) {
 
 TEST(ScreenMapping, an_addition_wins_where_both_intents_are_set) {
   BareScreen bare("GT1");
-  for (const char* option : {"OptInt_Add", "OptInt_Mod"}) {
+  for (const ControlName option : ControlNames{"OptInt_Add", "OptInt_Mod"}) {
     Control control = bare.screen.at(option);
     control.isSet = true;
     bare.screen.add(control);
@@ -279,9 +279,9 @@ TEST(ScreenMapping, allotments_are_always_in_the_plan) {
 
 // --- target of an assignment
 
-const Texts kTargetPlace = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
-                            "Txt_trg_long_SS",    "Txt_trg_long_EW", "Txt_trg_lat_DD",
-                            "Txt_trg_lat_MM",     "Txt_trg_lat_SS",  "Txt_trg_lat_NS"};
+const std::vector<ControlName> kTargetPlace = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM",
+                                               "Txt_trg_long_SS",    "Txt_trg_long_EW", "Txt_trg_lat_DD",
+                                               "Txt_trg_lat_MM",     "Txt_trg_lat_SS",  "Txt_trg_lat_NS"};
 
 NtcRec putTargetPlace(NtcRec ntc) {
   ntc.t_trg_freq_assgn = "474";
@@ -304,7 +304,7 @@ NtcRec makeModification() {
 
 void expectTarget(const Screen& screen, bool idShown, bool placeShown, bool orShown) {
   EXPECT_EQ(screen.isVisible("Txt_TrgAdmRefID"), idShown);
-  for (const std::string& box : kTargetPlace) EXPECT_EQ(screen.isVisible(box), placeShown) << box;
+  for (const ControlName box : kTargetPlace) EXPECT_EQ(screen.isVisible(box), placeShown) << box;
   EXPECT_EQ(screen.isVisible("Lbl_trg_or"), orShown);
 }
 
@@ -345,7 +345,7 @@ TEST(ScreenMapping, the_empty_parts_of_a_target_are_hidden_one_by_one) {
   ntc.trg_lat_sec.clear();
   RuledScreen ruled(kGT1Assign);
   ruled.fill(ntc);
-  for (const std::string& box : kTargetPlace) {
+  for (const ControlName box : kTargetPlace) {
     EXPECT_EQ(ruled.screen.isVisible(box), box != "Txt_trg_lat_SS") << box;
   }
   EXPECT_FALSE(ruled.screen.isVisible("Lbl_trg_or"));
@@ -434,16 +434,16 @@ TEST(ScreenMapping, only_a_publication_has_administrations_among_the_tb_notices)
   }
 }
 
-const Texts kTb2Place = {"Txt_TrgFreq",     "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
-                         "Txt_4C_Sec_Long", "Txt_4C_EW",       "Txt_4C_Deg_Lat",
-                         "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
-const Texts kTb2Reference = {"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"};
+const std::vector<ControlName> kTb2Place = {"Txt_TrgFreq",     "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
+                                            "Txt_4C_Sec_Long", "Txt_4C_EW",       "Txt_4C_Deg_Lat",
+                                            "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
+const std::vector<ControlName> kTb2Reference = {"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"};
 
 TEST(ScreenMapping, each_part_of_a_tb2_target_shows_itself_with_its_label_and_hides_the_reference) {
   struct Part {
     std::string NtcRec::*field;
-    const char* box;
-    const char* label;
+    ControlName box;
+    ControlName label;
   };
   // clang-format off
   const Part parts[] = {
@@ -460,27 +460,28 @@ TEST(ScreenMapping, each_part_of_a_tb2_target_shows_itself_with_its_label_and_hi
   // clang-format on
   for (const Part& part : parts) {
     BareScreen bare("TB2");
-    for (const std::string& box : kTb2Place) bare.screen.setVisible(box, false);
-    for (const char* label : {"lbl_freqAssgn", "Lbl_FreqUnit", "Lbl_4C_Long", "Lbl_4C_Lat"}) {
+    for (const ControlName box : kTb2Place) bare.screen.setVisible(box, false);
+    for (const ControlName label :
+         ControlNames{"lbl_freqAssgn", "Lbl_FreqUnit", "Lbl_4C_Long", "Lbl_4C_Lat"}) {
       bare.screen.setVisible(label, false);
     }
     NtcRec ntc;
     ntc.*part.field = "12";
     bare.fill(ntc);
-    for (const std::string& box : kTb2Place) EXPECT_EQ(bare.screen.isVisible(box), box == part.box) << box;
-    for (const std::string label : {"lbl_freqAssgn", "Lbl_4C_Long", "Lbl_4C_Lat"}) {
+    for (const ControlName box : kTb2Place) EXPECT_EQ(bare.screen.isVisible(box), box == part.box) << box;
+    for (const ControlName label : ControlNames{"lbl_freqAssgn", "Lbl_4C_Long", "Lbl_4C_Lat"}) {
       EXPECT_EQ(bare.screen.isVisible(label), label == part.label) << part.box << " " << label;
     }
-    EXPECT_EQ(bare.screen.isVisible("Lbl_FreqUnit"), std::string(part.box) == "Txt_TrgFreq");
-    for (const std::string& control : kTb2Reference) EXPECT_FALSE(bare.screen.isVisible(control)) << control;
+    EXPECT_EQ(bare.screen.isVisible("Lbl_FreqUnit"), part.box == "Txt_TrgFreq");
+    for (const ControlName control : kTb2Reference) EXPECT_FALSE(bare.screen.isVisible(control)) << control;
   }
 }
 
 TEST(ScreenMapping, a_tb2_target_by_reference_hides_nothing) {
   BareScreen bare("TB2");
   bare.fill(makeTb2());
-  for (const std::string& control : kTb2Reference) EXPECT_TRUE(bare.screen.isVisible(control)) << control;
-  for (const std::string& box : kTb2Place) EXPECT_TRUE(bare.screen.isVisible(box)) << box;
+  for (const ControlName control : kTb2Reference) EXPECT_TRUE(bare.screen.isVisible(control)) << control;
+  for (const ControlName box : kTb2Place) EXPECT_TRUE(bare.screen.isVisible(box)) << box;
 }
 
 }  // namespace

@@ -7,19 +7,19 @@
 namespace zamo {
 namespace {
 
-const char* const kHiddenOnCreated[] = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
-                                        "Button_Next",    "Button_Next_Ntc", "Button_Prev_Ntc"};
+constexpr ControlName kHiddenOnCreated[] = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
+                                            "Button_Next",    "Button_Next_Ntc", "Button_Prev_Ntc"};
 
 class Creation : public test::NoticeDesk {
  protected:
   Creation() { run.qryIsNotice = true; }
 
   // Opens the notice, presses the button with the option set, and does `onCreated` on the form that opens.
-  void create(std::string_view kind, const char* option, std::function<void(NoticeForm&)> onCreated) {
+  void create(std::string_view kind, ControlName option, std::function<void(NoticeForm&)> onCreated) {
     const std::int32_t idx = run.NtcCount;
     add(kind);
     steps.push_back([&, option](NoticeForm& form) {
-      if (option != nullptr) form.screen.setOption(option);
+      if (!option.empty()) form.screen.setOption(option);
       if (change) change(form);
       steps.push_back(onCreated);
       click(form, "btn_Create");
@@ -41,8 +41,8 @@ TEST_F(Creation, a_TB3_of_an_assignment_has_its_target_and_administration) {
     EXPECT_EQ(form.screen.text("Txt_TrgAdmRefID"), "F-0001");
     EXPECT_EQ(form.screen.text("Combo_B_Adm"), "F");
     EXPECT_EQ(form.screen.text("Txt_Filename"), run.DbFileName);
-    for (const char* name : kHiddenOnCreated) EXPECT_FALSE(form.screen.isVisible(name)) << name;
-    for (const char* name : {"Button_AddNew", "Button_Validate", "Button_Reset"})
+    for (const ControlName name : kHiddenOnCreated) EXPECT_FALSE(form.screen.isVisible(name)) << name;
+    for (const ControlName name : ControlNames{"Button_AddNew", "Button_Validate", "Button_Reset"})
       EXPECT_TRUE(form.screen.isVisible(name)) << name;
   });
   EXPECT_EQ(shown, (std::vector<FormCode>{kGT1Assign, kTB3}));
@@ -57,7 +57,7 @@ TEST_F(Creation, a_TB5_of_an_assignment_takes_email_and_article) {
     EXPECT_EQ(form.screen.text("Txt_EmailAddr"), "a@b.int");
     EXPECT_TRUE(form.screen.isSet("Opt_Art5"));
     EXPECT_FALSE(form.screen.isSet("Opt_Art4"));
-    for (const char* name : kHiddenOnCreated) EXPECT_FALSE(form.screen.isVisible(name)) << name;
+    for (const ControlName name : kHiddenOnCreated) EXPECT_FALSE(form.screen.isVisible(name)) << name;
   });
 }
 
@@ -125,7 +125,7 @@ TEST_F(Creation, a_TB2_of_a_television_assignment_needs_mode_and_variant) {
 }
 
 TEST_F(Creation, without_a_type_it_beeps_and_opens_nothing) {
-  create("GT1", nullptr, [](NoticeForm&) { ADD_FAILURE() << "opened"; });
+  create("GT1", {}, [](NoticeForm&) { ADD_FAILURE() << "opened"; });
   EXPECT_EQ(script.beeps, 1);
   expectBoxes({"MN/QST/WQN: Please, choose a notice type"});
   EXPECT_EQ(script.boxes[0].icon, BoxIcon::exclamation);
@@ -134,7 +134,7 @@ TEST_F(Creation, without_a_type_it_beeps_and_opens_nothing) {
 
 TEST_F(Creation, without_a_type_an_allotment_opens_nothing_either) {
   for (const char* kind : {"GT2", "GS2"}) {
-    create(kind, nullptr, [](NoticeForm&) { ADD_FAILURE() << "opened"; });
+    create(kind, {}, [](NoticeForm&) { ADD_FAILURE() << "opened"; });
     expectBoxes({"MN/QST/WQN: Please, choose a notice type"});
     script.boxes.clear();
   }
@@ -143,7 +143,7 @@ TEST_F(Creation, without_a_type_an_allotment_opens_nothing_either) {
 
 TEST_F(Creation, a_variant_or_a_mode_beside_a_stored_configuration_is_enough_for_a_TB2) {
   struct Given {
-    const char* combo;
+    ControlName combo;
     const char* value;
   };
   for (const Given& given : {Given{"Combo_LMZ04_Sys_Var", "C2"}, Given{"Combo_LMZ04_RxMode", "FX"}}) {
@@ -190,28 +190,28 @@ class TargetOfTB2 : public test::NoticeDesk {
 };
 
 TEST_F(TargetOfTB2, leaving_its_identifier_hides_and_shows_frequency_and_place) {
-  const char* const elements[] = {"LblOr",           "Lbl_FreqUnit", "lbl_freqAssgn",   "Lbl_4C_Long",
-                                  "Lbl_4C_Lat",      "Txt_TrgFreq",  "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
-                                  "Txt_4C_Sec_Long", "Txt_4C_EW",    "Txt_4C_Deg_Lat",  "Txt_4C_Min_Lat",
-                                  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
+  constexpr ControlName elements[] = {"LblOr",           "Lbl_FreqUnit", "lbl_freqAssgn",   "Lbl_4C_Long",
+                                      "Lbl_4C_Lat",      "Txt_TrgFreq",  "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
+                                      "Txt_4C_Sec_Long", "Txt_4C_EW",    "Txt_4C_Deg_Lat",  "Txt_4C_Min_Lat",
+                                      "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
   add("TB2");
   open(0, [&](NoticeForm& form) {
     work.state.screenIsBlank = true;
     type(form, "Txt_TrgAdmRefID", "F-9");
     EXPECT_TRUE(mayLeaveField(form, "Txt_TrgAdmRefID"));
-    for (const char* name : elements) EXPECT_FALSE(form.screen.isVisible(name)) << name;
+    for (const ControlName name : elements) EXPECT_FALSE(form.screen.isVisible(name)) << name;
     EXPECT_FALSE(work.state.screenIsBlank);
     work.state.screenIsBlank = true;
     type(form, "Txt_TrgAdmRefID", "");
     EXPECT_TRUE(mayLeaveField(form, "Txt_TrgAdmRefID"));
     EXPECT_TRUE(work.state.screenIsBlank);
-    for (const char* name : elements) EXPECT_TRUE(form.screen.isVisible(name)) << name;
+    for (const ControlName name : elements) EXPECT_TRUE(form.screen.isVisible(name)) << name;
   });
   expectBoxes({});
 }
 
 TEST_F(TargetOfTB2, empty_hours_become_the_whole_day_in_every_flow) {
-  for (const char* button : {"Button_Validate", "Button_Next", "Button_AddNew"}) {
+  for (const ControlName button : ControlNames{"Button_Validate", "Button_Next", "Button_AddNew"}) {
     const std::int32_t idx = run.NtcCount;
     add("TB2");
     script.answers = {false};
@@ -257,15 +257,16 @@ TEST_F(TargetOfTB2, a_stored_place_that_is_emptied_gives_way_to_the_identifier) 
     EXPECT_FALSE(form.screen.isVisible("Txt_TrgAdmRefID"));
     type(form, "Txt_4C_EW", "");
     EXPECT_TRUE(mayLeaveField(form, "Txt_4C_EW"));
-    for (const char* name : {"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"})
+    for (const ControlName name : ControlNames{"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"})
       EXPECT_TRUE(form.screen.isVisible(name)) << name;
   });
   expectBoxes({});
 }
 
 TEST_F(TargetOfTB2, each_box_of_the_place_gives_way_when_it_is_the_last) {
-  for (const char* box : {"Txt_TrgFreq", "Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_EW",
-                          "Txt_4C_Deg_Lat", "Txt_4C_Min_Lat", "Txt_4C_Sec_Lat", "Txt_4C_NS"}) {
+  for (const ControlName box :
+       ControlNames{"Txt_TrgFreq", "Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_EW",
+                    "Txt_4C_Deg_Lat", "Txt_4C_Min_Lat", "Txt_4C_Sec_Lat", "Txt_4C_NS"}) {
     const std::int32_t idx = run.NtcCount;
     NtcRec ntc = makeTb2();
     ntc.t_trg_adm_ref_id.clear();

@@ -62,22 +62,22 @@ class Form : public testing::Test {
   }
 
   // The intent and the article as the forms set them: the rules follow the option.
-  void setIntent(const std::string& option) {
+  void setIntent(ControlName option) {
     screen.setOption(option);
     applyIntentRule(screen);
     applyAntennaRule(screen);
     applyArticleRule(screen);
   }
-  void setArticle(const std::string& option) {
+  void setArticle(ControlName option) {
     screen.setOption(option);
     applyArticleRule(screen);
   }
   void expectHidden(const std::string& expected) { EXPECT_EQ(hidden(screen), names(expected)); }
   void expectTexts(const Entries& expected) {
-    for (const Entry& one : expected) EXPECT_EQ(screen.text(one.control), one.text) << one.control;
+    for (const Entry& one : expected) EXPECT_EQ(screen.text(madeName(one.control)), one.text) << one.control;
   }
   void expectPlaceEmpty() {
-    for (const std::string& box : names(kPlace)) EXPECT_EQ(screen.text(box), "") << box;
+    for (const std::string& box : names(kPlace)) EXPECT_EQ(screen.text(madeName(box)), "") << box;
   }
 
   FormAtWork at;
@@ -103,7 +103,8 @@ TEST_P(AssignmentVisibility, a_form_opens_for_an_addition_under_neither_article)
   EXPECT_EQ(disabled(screen), names(kCoordinationButtons));
   EXPECT_EQ(grey(screen), Names());
   EXPECT_TRUE(screen.isSet("OptInt_Add"));
-  for (const char* option : {"OptInt_Mod", "Opt_Art4", "Opt_Art5"}) EXPECT_FALSE(screen.isSet(option));
+  for (const ControlName option : ControlNames{"OptInt_Mod", "Opt_Art4", "Opt_Art5"})
+    EXPECT_FALSE(screen.isSet(option));
   EXPECT_EQ(screen.at("Lbl_trg_or").caption, "");
   EXPECT_EQ(screen.text("Txt_10B_Ophhfr"), "");
 }
@@ -168,7 +169,8 @@ TEST_P(AssignmentVisibility, the_intent_rule_hides_a_place_without_clearing_it) 
   screen.setVisible("Frame_ART5_Only", false);
   applyIntentRule(screen);
   expectTexts(kPlaceEntries);
-  for (const std::string& control : names(kPlaceAndOr)) EXPECT_FALSE(screen.isVisible(control)) << control;
+  for (const std::string& control : names(kPlaceAndOr))
+    EXPECT_FALSE(screen.isVisible(madeName(control))) << control;
 }
 
 // --- article
@@ -186,7 +188,7 @@ TEST_P(AssignmentVisibility, the_article_shows_its_own_frame) {
 TEST_P(AssignmentVisibility, without_a_modification_the_article_leaves_the_target_alone) {
   put(screen, kPlaceEntries);
   screen.setText("Txt_AdmRefID", "F-0001");
-  for (const char* article : {"Opt_Art4", "Opt_Art5"}) {
+  for (const ControlName article : ControlNames{"Opt_Art4", "Opt_Art5"}) {
     setArticle(article);
     expectTexts(kPlaceEntries);
     EXPECT_EQ(screen.text("Txt_TrgAdmRefID"), "");
@@ -354,7 +356,7 @@ TEST_P(AssignmentVisibility, a_stored_target_survives_the_rules) {
   applyIntentRule(screen);
   expectTexts(kPlaceEntries);
   EXPECT_EQ(screen.text("Txt_TrgAdmRefID"), "F-0000");
-  for (const std::string& box : names(kPlace)) EXPECT_TRUE(screen.isVisible(box)) << box;
+  for (const std::string& box : names(kPlace)) EXPECT_TRUE(screen.isVisible(madeName(box))) << box;
   setIntent("OptInt_Add");
   expectTexts(kPlaceEntries);
   EXPECT_EQ(screen.text("Txt_TrgAdmRefID"), "F-0000");
@@ -368,7 +370,7 @@ TEST_P(AssignmentVisibility, of_a_stored_target_the_empty_boxes_are_hidden) {
   applyArticleRule(screen);
   EXPECT_TRUE(screen.isVisible("Txt_trg_freq_assgn"));
   for (const std::string& box : names(kPlaceAndOr)) {
-    EXPECT_EQ(screen.isVisible(box), box == "Txt_trg_freq_assgn") << box;
+    EXPECT_EQ(screen.isVisible(madeName(box)), box == "Txt_trg_freq_assgn") << box;
   }
 }
 
@@ -420,7 +422,7 @@ class TelevisionVisibility : public Form, public testing::WithParamInterface<boo
   TelevisionVisibility() : Form(kGT1Assign, GetParam()) {}
   void choose(const Entries& entries) {
     for (const Entry& one : entries) {
-      ASSERT_TRUE(screen.chooseText(one.control, one.text)) << one.control;
+      ASSERT_TRUE(screen.chooseText(madeName(one.control), one.text)) << one.control;
       applyPlanningRule(screen);
     }
   }
@@ -444,7 +446,7 @@ TEST_P(TelevisionVisibility, a_system_clears_and_hides_the_planning_configuratio
     expectHidden("FrameTrg LblOr" + kPlanning);
     EXPECT_EQ(screen.text("Combo_LMZ04_RefPlan"), "");
     EXPECT_EQ(screen.at("Combo_LMZ04_RefPlan").index, 0);
-    EXPECT_EQ(screen.text(one.control), one.text);
+    EXPECT_EQ(screen.text(madeName(one.control)), one.text);
     choose({{one.control, ""}});
     expectHidden("FrameTrg");
   }
@@ -497,7 +499,7 @@ TEST_P(TelevisionVisibility, stored_values_that_exclude_each_other_stay_to_be_se
   for (const Entries& order : {stored, Entries{stored[1], stored[0]}}) {
     clearScreen(screen);
     screen.filling = true;
-    for (const Entry& one : order) screen.chooseText(one.control, one.text);
+    for (const Entry& one : order) screen.chooseText(madeName(one.control), one.text);
     screen.filling = false;
     settleAfterFill(screen);
     expectTexts(stored);

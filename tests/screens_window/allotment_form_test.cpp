@@ -11,8 +11,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
-constexpr const char* kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas",
+constexpr ControlName kWholeCountry[] = {"Combo_LMZ04_geo_area", "Lbl_LMZ04_geo_area"};
+constexpr ControlName kSubAreas[] = {"Lbl_LMZ04_nb_sub_areas", "Txt_LMZ04_nb_sub_areas",
                                      "FrameSubArea",           "Txt_LMZ04_contour_id",
                                      "ListBoxContourID",       "Button_Add_Contour"};
 
@@ -49,8 +49,8 @@ class AllotmentForms : public RealForm {
     hand.click("Button_Add_Contour");
   }
   template <std::size_t Count>
-  static void expectSeen(const Operator& hand, const char* const (&names)[Count], bool seen) {
-    for (const char* name : names) EXPECT_EQ(hand.sees(name), seen) << name;
+  static void expectSeen(const Operator& hand, const ControlName (&names)[Count], bool seen) {
+    for (const ControlName name : names) EXPECT_EQ(hand.sees(name), seen) << name;
   }
 };
 
@@ -102,7 +102,7 @@ TEST_F(AllotmentForms, of_two_stored_ways_the_one_that_is_left_stays_and_the_oth
       openNew(ntc, [&](Operator& hand) {
         expectSeen(hand, kWholeCountry, true);
         expectSeen(hand, kSubAreas, true);
-        hand.go(leavesNumber ? "Txt_LMZ04_nb_sub_areas" : "Combo_LMZ04_geo_area");
+        hand.go(leavesNumber ? ControlName("Txt_LMZ04_nb_sub_areas") : ControlName("Combo_LMZ04_geo_area"));
         hand.tab();
         expectSeen(hand, kWholeCountry, !leavesNumber);
         expectSeen(hand, kSubAreas, leavesNumber);
@@ -117,14 +117,15 @@ TEST_F(AllotmentForms, of_two_stored_ways_the_one_that_is_left_stays_and_the_oth
 TEST_F(AllotmentForms, without_a_number_the_sub_areas_are_locked_and_grey) {
   onBoth([](Operator& hand) {
     hand.pick("Combo_LMZ04_geo_area", "");
-    for (const char* name :
-         {"Txt_LMZ04_contour_id", "FrameSubArea", "Button_Add_Contour", "Button_Clear_Contour"})
+    for (const ControlName name :
+         ControlNames{"Txt_LMZ04_contour_id", "FrameSubArea", "Button_Add_Contour", "Button_Clear_Contour"})
       EXPECT_FALSE(hand.canUse(name)) << name;
-    for (const char* name : {"Txt_LMZ04_contour_id", "ListBoxContourID"})
+    for (const ControlName name : ControlNames{"Txt_LMZ04_contour_id", "ListBoxContourID"})
       EXPECT_TRUE(hand.isGrey(name)) << name;
     hand.enter("Txt_LMZ04_nb_sub_areas", "1");
-    for (const char* name : {"Txt_LMZ04_contour_id", "FrameSubArea"}) EXPECT_TRUE(hand.canUse(name)) << name;
-    for (const char* name : {"Txt_LMZ04_contour_id", "ListBoxContourID"})
+    for (const ControlName name : ControlNames{"Txt_LMZ04_contour_id", "FrameSubArea"})
+      EXPECT_TRUE(hand.canUse(name)) << name;
+    for (const ControlName name : ControlNames{"Txt_LMZ04_contour_id", "ListBoxContourID"})
       EXPECT_FALSE(hand.isGrey(name)) << name;
     addContour(hand, "7");
     EXPECT_THAT(hand.items("ListBoxContourID"), ElementsAre("7"));
@@ -175,7 +176,7 @@ TEST_F(AllotmentForms, shift_tab_leads_back_out_of_the_number) {
 
 TEST_F(AllotmentForms, leaving_the_number_by_a_click_hands_the_focus_to_an_empty_contour_box_too) {
   onBoth("2", {"1", "2"}, [](Operator& hand) {
-    for (const char* other : {"Txt_KV19_Offset", "Txt_LMZ04_allot_name", "Txt_AdmRefID"}) {
+    for (const ControlName other : ControlNames{"Txt_KV19_Offset", "Txt_LMZ04_allot_name", "Txt_AdmRefID"}) {
       hand.type("Txt_LMZ04_contour_id", "77");
       hand.go("Txt_LMZ04_nb_sub_areas");
       hand.click(other);
@@ -215,7 +216,7 @@ TEST_F(AllotmentForms, a_click_that_leaves_the_number_does_what_it_says_once_bef
 TEST_F(AllotmentForms, a_page_that_is_clicked_from_the_number_comes_to_the_front_and_stays) {
   onBoth("2", {"1", "2"}, [](Operator& hand) {
     hand.go("Txt_LMZ04_nb_sub_areas");
-    auto& pages = hand.control<QTabWidget>("Pages");
+    auto& pages = childOf<QTabWidget>(hand.window, "Pages");
     hand.clickSlowly(*pages.tabBar(), pages.tabBar()->tabRect(1).center());
     EXPECT_EQ(pages.currentIndex(), 1);
     EXPECT_EQ(hand.focused(), "ListAdmAvail");
@@ -352,10 +353,12 @@ TEST_F(AllotmentForms, plan_entry_5_has_no_network) {
   onBoth([](Operator& hand) {
     EXPECT_EQ(hand.text("Txt_LMZ04_SfnID"), "F-SFN-0001");
     hand.pick("Combo_KV19_Plan", "5");
-    for (const char* name : {"Txt_LMZ04_SfnID", "Lbl_LMZ04_SfnID"}) EXPECT_FALSE(hand.sees(name)) << name;
+    for (const ControlName name : ControlNames{"Txt_LMZ04_SfnID", "Lbl_LMZ04_SfnID"})
+      EXPECT_FALSE(hand.sees(name)) << name;
     for (const char* other : {"4", "3", ""}) {
       hand.pick("Combo_KV19_Plan", other);
-      for (const char* name : {"Txt_LMZ04_SfnID", "Lbl_LMZ04_SfnID"}) EXPECT_TRUE(hand.sees(name)) << name;
+      for (const ControlName name : ControlNames{"Txt_LMZ04_SfnID", "Lbl_LMZ04_SfnID"})
+        EXPECT_TRUE(hand.sees(name)) << name;
     }
     EXPECT_EQ(hand.text("Txt_LMZ04_SfnID"), "");
   });
@@ -363,7 +366,7 @@ TEST_F(AllotmentForms, plan_entry_5_has_no_network) {
 
 struct Refusal {
   const char* type;
-  const char* field;
+  ControlName field;
   const char* wrong;
   const char* told;
   const char* right;
@@ -418,7 +421,8 @@ TEST_F(AllotmentForms, a_day_that_its_month_has_not_keeps_the_focus) {
 TEST_F(AllotmentForms, there_is_no_TB2_of_an_allotment) {
   onBoth([](Operator& hand) {
     EXPECT_EQ(hand.window.findChild<QWidget*>("Opt_TB2"), nullptr);
-    for (const char* name : {"Opt_TB3", "Opt_TB5", "btn_Create"}) EXPECT_TRUE(hand.canUse(name)) << name;
+    for (const ControlName name : ControlNames{"Opt_TB3", "Opt_TB5", "btn_Create"})
+      EXPECT_TRUE(hand.canUse(name)) << name;
   });
 }
 

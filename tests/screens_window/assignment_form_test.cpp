@@ -24,8 +24,7 @@ class AssignmentForms : public RealForm {
     }
   }
   // The value is refused with one box, and the focus stays.
-  void expectRefused(Operator& hand, const std::string& name, const std::string& value,
-                     const std::string& told) {
+  void expectRefused(Operator& hand, ControlName name, const std::string& value, const std::string& told) {
     hand.enter(name, value);
     EXPECT_EQ(hand.focused(), name) << value;
     EXPECT_EQ(hand.text(name), value) << name;
@@ -33,7 +32,7 @@ class AssignmentForms : public RealForm {
     EXPECT_EQ(script.boxes[0].icon, BoxIcon::exclamation);
     expectTold({told});
   }
-  void expectTaken(Operator& hand, const std::string& name, const std::string& value) {
+  void expectTaken(Operator& hand, ControlName name, const std::string& value) {
     hand.enter(name, value);
     EXPECT_NE(hand.focused(), name) << value;
     expectTold({});
@@ -43,7 +42,7 @@ class AssignmentForms : public RealForm {
 // --- leaving a field
 
 struct Refusal {
-  const char* field;
+  ControlName field;
   const char* wrong;
   const char* told;
   const char* right;
@@ -197,8 +196,8 @@ TEST_F(AssignmentForms, times_are_told_what_is_wrong_with_them) {
 
 TEST_F(AssignmentForms, free_fields_take_anything) {
   onBoth([&](Operator& hand) {
-    for (const char* name :
-         {"Txt_3A1_CallSign", "Txt_PlanAdm_RefID", "Txt_EmailAddr", "Txt_4A_SiteName", "Txt_AdmRefID"})
+    for (const ControlName name : ControlNames{"Txt_3A1_CallSign", "Txt_PlanAdm_RefID", "Txt_EmailAddr",
+                                               "Txt_4A_SiteName", "Txt_AdmRefID"})
       expectTaken(hand, name, "12,5 %");
     hand.type("Txt_notified_Rmks", "12,5 %");
     hand.tab();
@@ -213,8 +212,8 @@ TEST_F(AssignmentForms, a_wrong_value_keeps_every_other_control_back_with_one_bo
     const std::string told = "Prevalidation Error - Height of antenna: Value must be between [0, 800]";
     hand.type("Txt_9E_AntHgt", "801");
     const auto inputs = hand.contents();
-    for (const char* name :
-         {"Button_Next", "Button_AddNew", "Button_Finish", "Button_Validate", "Txt_9EA_SiteAlt"}) {
+    for (const ControlName name : ControlNames{"Button_Next", "Button_AddNew", "Button_Finish",
+                                               "Button_Validate", "Txt_9EA_SiteAlt"}) {
       hand.click(name);
       EXPECT_EQ(hand.focused(), "Txt_9E_AntHgt") << name;
       expectTold({told});
@@ -265,33 +264,35 @@ TEST_F(AssignmentForms, a_form_with_a_wrong_value_can_be_closed_in_every_way) {
 // --- the target
 
 TEST_F(AssignmentForms, typing_the_targets_identifier_hides_its_place_and_deleting_it_brings_it_back) {
-  const char* const place[] = {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM", "Txt_trg_long_SS",
-                               "Txt_trg_long_EW",    "Txt_trg_lat_DD",  "Txt_trg_lat_MM",  "Txt_trg_lat_SS",
-                               "Txt_trg_lat_NS",     "Lbl_trg_or"};
+  constexpr ControlName place[] = {
+      "Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM", "Txt_trg_long_SS", "Txt_trg_long_EW",
+      "Txt_trg_lat_DD",     "Txt_trg_lat_MM",  "Txt_trg_lat_SS",  "Txt_trg_lat_NS",  "Lbl_trg_or"};
   onBoth([&](Operator& hand) {
     EXPECT_FALSE(hand.sees("FrameTrg"));
     hand.click("OptInt_Mod");
     EXPECT_TRUE(hand.sees("FrameTrg"));
-    for (const char* name : place) EXPECT_TRUE(hand.sees(name)) << name;
+    for (const ControlName name : place) EXPECT_TRUE(hand.sees(name)) << name;
     EXPECT_EQ(hand.caption("Lbl_trg_or"), "Or");
     hand.type("Txt_TrgAdmRefID", "F");
-    for (const char* name : place) EXPECT_FALSE(hand.sees(name)) << name;
+    for (const ControlName name : place) EXPECT_FALSE(hand.sees(name)) << name;
     EXPECT_TRUE(hand.sees("Txt_TrgAdmRefID"));
     hand.press(Qt::Key_Backspace);
-    for (const char* name : place) EXPECT_TRUE(hand.sees(name)) << name;
+    for (const ControlName name : place) EXPECT_TRUE(hand.sees(name)) << name;
   });
 }
 
 TEST_F(AssignmentForms, typing_the_targets_place_hides_its_identifier_until_all_is_deleted) {
   onBoth([&](Operator& hand) {
     hand.click("OptInt_Mod");
-    for (const char* name : {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM", "Txt_trg_long_SS",
-                             "Txt_trg_lat_DD", "Txt_trg_lat_MM", "Txt_trg_lat_SS"}) {
+    for (const ControlName name :
+         ControlNames{"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_long_MM", "Txt_trg_long_SS",
+                      "Txt_trg_lat_DD", "Txt_trg_lat_MM", "Txt_trg_lat_SS"}) {
       hand.type(name, "5");
-      for (const char* other : {"Txt_TrgAdmRefID", "Lbl_TrgAdmRefID", "Lbl_trg_or"})
+      for (const ControlName other : ControlNames{"Txt_TrgAdmRefID", "Lbl_TrgAdmRefID", "Lbl_trg_or"})
         EXPECT_FALSE(hand.sees(other)) << other << " with " << name;
       hand.press(Qt::Key_Backspace);
-      for (const char* other : {"Txt_TrgAdmRefID", "Lbl_TrgAdmRefID", "Lbl_trg_or", "Txt_trg_long_EW"})
+      for (const ControlName other :
+           ControlNames{"Txt_TrgAdmRefID", "Lbl_TrgAdmRefID", "Lbl_trg_or", "Txt_trg_long_EW"})
         EXPECT_TRUE(hand.sees(other)) << other << " without " << name;
     }
     expectTold({});

@@ -11,8 +11,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Texts kPoint = {"Txt_LMZ04_Deg_Long", "Txt_LMZ04_Min_Long", "Txt_LMZ04_Sec_Long", "Txt_LMZ04_EW",
-                      "Txt_LMZ04_Deg_Lat",  "Txt_LMZ04_Min_Lat",  "Txt_LMZ04_Sec_Lat",  "Txt_LMZ04_NS"};
+const std::vector<ControlName> kPoint = {"Txt_LMZ04_Deg_Long", "Txt_LMZ04_Min_Long", "Txt_LMZ04_Sec_Long",
+                                         "Txt_LMZ04_EW",       "Txt_LMZ04_Deg_Lat",  "Txt_LMZ04_Min_Lat",
+                                         "Txt_LMZ04_Sec_Lat",  "Txt_LMZ04_NS"};
 constexpr const char* kList = "ListBox_LMZ04_Coordinates";
 constexpr const char* kCount = "Txt_LMZ04_nb_test_pts";
 
@@ -31,15 +32,15 @@ class ContourWindow : public RealForm {
   }
   static Texts pointBoxes(const Operator& hand) {
     Texts all;
-    for (const std::string& name : kPoint) all.push_back(hand.text(name));
+    for (const ControlName name : kPoint) all.push_back(hand.text(name));
     return all;
   }
-  static void tabTo(Operator& hand, const std::string& name) {
+  static void tabTo(Operator& hand, ControlName name) {
     for (int i = 0; i < 20 && hand.focused() != name; ++i) hand.tab();
     EXPECT_EQ(hand.focused(), name);
   }
-  static void expectUsable(const Operator& hand, const Texts& buttons, bool usable) {
-    for (const std::string& name : buttons) EXPECT_EQ(hand.canUse(name), usable) << name;
+  static void expectUsable(const Operator& hand, ControlNames buttons, bool usable) {
+    for (const ControlName name : buttons) EXPECT_EQ(hand.canUse(name), usable) << name;
   }
   void outOfCountry() {
     map.gzmpCountryAtPoint = [](const GzmpPoint&) { return std::string("D  "); };
@@ -178,7 +179,8 @@ TEST_F(ContourWindow, leaving_the_count_by_tab_goes_to_the_longitude_and_locks_t
 
 TEST_F(ContourWindow, leaving_the_count_by_a_click_goes_to_the_longitude_too) {
   onTriangle([this](Operator& hand) {
-    for (const char* other : {"Txt_LMZ04_contour_id", "Txt_LMZ04_Sec_Lat", "Txt_notified_Rmks"}) {
+    for (const ControlName other :
+         ControlNames{"Txt_LMZ04_contour_id", "Txt_LMZ04_Sec_Lat", "Txt_notified_Rmks"}) {
       hand.go(kCount);
       hand.click(other);
       EXPECT_EQ(hand.focused(), "Txt_LMZ04_Deg_Long") << other;
@@ -241,7 +243,7 @@ TEST_F(ContourWindow, the_count_is_followed_while_it_is_typed) {
 TEST_F(ContourWindow, without_a_count_the_points_are_locked_and_grey) {
   onTriangle([this](Operator& hand) {
     hand.enter(kCount, "");
-    for (const std::string& name : kPoint) {
+    for (const ControlName name : kPoint) {
       EXPECT_FALSE(hand.canUse(name)) << name;
       EXPECT_TRUE(hand.isGrey(name)) << name;
     }
@@ -249,7 +251,7 @@ TEST_F(ContourWindow, without_a_count_the_points_are_locked_and_grey) {
     EXPECT_THAT(hand.items(kList), IsEmpty());
     expectUsable(hand, {"Button_Del_Coordinates", "Button_Add_Coordinates"}, false);
     hand.enter(kCount, "3");
-    for (const std::string& name : kPoint) {
+    for (const ControlName name : kPoint) {
       EXPECT_TRUE(hand.canUse(name)) << name;
       EXPECT_FALSE(hand.isGrey(name)) << name;
     }
@@ -324,7 +326,7 @@ TEST_F(ContourWindow, points_that_cannot_enter_are_told) {
 }
 
 struct Refusal {
-  const char* field;
+  ControlName field;
   const char* wrong;
   const char* told;
   const char* right;
@@ -421,7 +423,7 @@ TEST_F(ContourWindow, a_list_that_is_short_cannot_be_saved) {
   onTriangle([this](Operator& hand) {
     hand.clickItem(kList, 0);
     hand.click("Button_Del_Coordinates");
-    for (const char* button : {"Button_Next", "Button_AddNew"}) {
+    for (const ControlName button : ControlNames{"Button_Next", "Button_AddNew"}) {
       hand.click(button);
       EXPECT_EQ(script.boxes.at(0).buttons, BoxButtons::cancelTryContinue);
       expectTold(

@@ -22,7 +22,7 @@ class EveryForm : public RealForm, public testing::WithParamInterface<const char
   static std::set<std::string> usableFields(const Operator& hand) {
     std::set<std::string> names;
     hand.form.screen.forEach([&](const Control& known) {
-      const QWidget& widget = hand.control(known.name);
+      const QWidget& widget = hand.control(madeName(known.name));
       const bool isField = known.kind == ControlKind::text || known.kind == ControlKind::combo ||
                            known.kind == ControlKind::memo || known.kind == ControlKind::list;
       if (isField && widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0)
@@ -73,9 +73,10 @@ TEST_P(EveryForm, every_field_of_a_valid_notice_can_be_clicked_without_a_word_or
   openNew(makeFullNotice(GetParam()), [&](Operator& hand) {
     const Contents before = hand.contents();
     hand.form.screen.forEach([&](const Control& known) {
-      if ((known.kind != ControlKind::text && known.kind != ControlKind::memo) || !hand.canUse(known.name))
+      if ((known.kind != ControlKind::text && known.kind != ControlKind::memo) ||
+          !hand.canUse(madeName(known.name)))
         return;
-      hand.click(known.name);
+      hand.click(madeName(known.name));
       EXPECT_TRUE(hand.focused() == known.name || known.name == "Txt_LMZ04_nb_sub_areas" ||
                   hand.focused() == "Txt_LMZ04_contour_id" || hand.focused() == "Txt_LMZ04_Deg_Long")
           << known.name << " but " << hand.focused();
@@ -100,10 +101,10 @@ TEST_P(EveryForm, close_asks_nothing_and_saves_nothing) {
 
 TEST_P(EveryForm, a_notice_that_is_alone_has_no_neighbours) {
   openNew(GetParam(), [](Operator& hand) {
-    for (const char* button :
-         {"Button_Next", "Button_AddNew", "Button_Finish", "Button_Reset", "Button_Validate"})
+    for (const ControlName button :
+         ControlNames{"Button_Next", "Button_AddNew", "Button_Finish", "Button_Reset", "Button_Validate"})
       EXPECT_TRUE(hand.canUse(button)) << button;
-    for (const char* button : {"Button_Next_Ntc", "Button_Prev_Ntc"}) {
+    for (const ControlName button : ControlNames{"Button_Next_Ntc", "Button_Prev_Ntc"}) {
       EXPECT_TRUE(hand.sees(button)) << button;
       EXPECT_FALSE(hand.canUse(button)) << button;
     }
@@ -127,12 +128,13 @@ TEST_P(EveryForm, internal_remarks_are_in_sight_when_there_are_some) {
 
 TEST_P(EveryForm, too_few_fields_are_refused_by_the_three_buttons) {
   openNew(GetParam(), [&](Operator& hand) {
-    for (const char* name :
-         {"Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_Deg_Lat", "Txt_4C_Min_Lat",
-          "Txt_4C_Sec_Lat", "Txt_AdmRefID", "Txt_TrgAdmRefID", "Txt_PlanAdmRefID", "Txt_LMZ04_contour_id"}) {
-      if (hand.window.findChild<QWidget*>(name) != nullptr && hand.canUse(name)) hand.enter(name, "");
+    for (const ControlName name :
+         ControlNames{"Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_Deg_Lat",
+                      "Txt_4C_Min_Lat", "Txt_4C_Sec_Lat", "Txt_AdmRefID", "Txt_TrgAdmRefID",
+                      "Txt_PlanAdmRefID", "Txt_LMZ04_contour_id"}) {
+      if (hand.form.screen.has(name) && hand.canUse(name)) hand.enter(name, "");
     }
-    for (const char* button : {"Button_Validate", "Button_Next", "Button_AddNew"}) {
+    for (const ControlName button : ControlNames{"Button_Validate", "Button_Next", "Button_AddNew"}) {
       hand.click(button);
       expectTold({"Missing values: Not enough fields to validate"});
     }

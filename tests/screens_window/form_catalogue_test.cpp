@@ -52,13 +52,13 @@ TEST_P(FormCatalogue, every_control_is_a_widget_of_its_kind_with_its_caption_and
     const auto expected = catalogue::catalogueOf(code);
     EXPECT_GT(expected.size(), 25U);
     for (const auto& [name, row] : expected) {
-      const QWidget& widget = hand.control(name);
+      const QWidget& widget = hand.control(madeName(name));
       EXPECT_TRUE(isOfKind(widget, row.kind)) << name;
       EXPECT_EQ(toText(widget.toolTip()), row.tip) << name;
       const bool hasCaption = row.kind == ControlKind::option || row.kind == ControlKind::button ||
                               row.kind == ControlKind::label || row.kind == ControlKind::frame;
       if (!hasCaption) continue;
-      EXPECT_EQ(hand.caption(name), captionAfterFilling(row, code)) << name;
+      EXPECT_EQ(hand.caption(madeName(name)), captionAfterFilling(row, code)) << name;
     }
   });
   expectTold({});
@@ -76,7 +76,8 @@ TEST_P(FormCatalogue, every_control_stands_in_the_box_of_its_frame) {
   look([](Operator& hand) {
     for (const auto& [name, row] : catalogue::catalogueOf(hand.form.screen.code())) {
       if (row.frame.empty()) continue;
-      EXPECT_TRUE(hand.control(row.frame).isAncestorOf(&hand.control(name))) << name << " in " << row.frame;
+      EXPECT_TRUE(hand.control(madeName(row.frame)).isAncestorOf(&hand.control(madeName(name))))
+          << name << " in " << row.frame;
     }
   });
 }
@@ -86,11 +87,11 @@ TEST_P(FormCatalogue, every_list_is_offered_whole) {
     const FormCode code = hand.form.screen.code();
     for (const catalogue::ExpectedList& row : catalogue::kShortLists) {
       if (!isOneOf(code, row.forms) || row.name.starts_with("List")) continue;
-      EXPECT_EQ(hand.items(row.name), row.items) << row.name;
+      EXPECT_EQ(hand.items(madeName(row.name)), row.items) << row.name;
     }
     for (const catalogue::CodeList& row : catalogue::kCodeLists) {
       if (!isOneOf(code, row.forms)) continue;
-      const Texts items = hand.items(row.name);
+      const Texts items = hand.items(madeName(row.name));
       ASSERT_EQ(items.size(), row.rows) << row.name;
       EXPECT_EQ(items[0], "") << row.name;
       EXPECT_EQ(items[1], "AFS") << row.name;
@@ -113,7 +114,7 @@ TEST_P(FormCatalogue, key_and_file_of_the_notice_are_shown_and_cannot_be_typed_o
   const std::int32_t key = openNew(GetParam(), [this](Operator& hand) {
     EXPECT_EQ(hand.text("Txt_Ntc_Number"), std::to_string(run.SelKey));
     EXPECT_EQ(hand.text("Txt_Filename"), run.DbFileName);
-    for (const char* box : {"Txt_Ntc_Number", "Txt_Filename"}) {
+    for (const ControlName box : ControlNames{"Txt_Ntc_Number", "Txt_Filename"}) {
       hand.click(box);
       QTest::keyClicks(hand.window.focusWidget(), "7");
     }
@@ -157,8 +158,8 @@ TEST_F(FormTitles, each_window_has_its_name_and_its_title) {
 // Where typed letters turn to upper case, by form.
 struct Typed {
   const char* kind;
-  Texts upper;
-  Texts asTyped;
+  std::vector<ControlName> upper;
+  std::vector<ControlName> asTyped;
 };
 // clang-format off
 const Typed kTyped[] = {
@@ -179,7 +180,7 @@ const Typed kTyped[] = {
 class UpperCase : public RealForm {
  protected:
   // A letter that every field takes, and the field as it was again.
-  static void typeLetter(Operator& hand, const std::string& name, const std::string& letter,
+  static void typeLetter(Operator& hand, ControlName name, const std::string& letter,
                          const std::string& shown) {
     const std::string before = hand.text(name);
     hand.type(name, letter);
@@ -193,8 +194,8 @@ TEST_F(UpperCase, what_is_typed_is_upper_case_where_the_form_says_so) {
     openNew(row.kind, [&](Operator& hand) {
       SCOPED_TRACE(row.kind);
       if (hand.window.findChild<QWidget*>("OptInt_Mod") != nullptr) hand.click("OptInt_Mod");
-      for (const std::string& name : row.upper) typeLetter(hand, name, "b\351", "B\311");
-      for (const std::string& name : row.asTyped) typeLetter(hand, name, "b\351", "b\351");
+      for (const ControlName name : row.upper) typeLetter(hand, name, "b\351", "B\311");
+      for (const ControlName name : row.asTyped) typeLetter(hand, name, "b\351", "b\351");
     });
   }
 }
@@ -205,8 +206,8 @@ TEST_F(UpperCase, the_letters_of_a_target_and_the_ids_of_a_network_are_upper_cas
     ntc.t_plan_entry = "4";
     openNew(ntc, [&](Operator& hand) {
       hand.click("OptInt_Mod");
-      for (const char* name : {"Txt_trg_lat_NS", "Txt_trg_long_EW", "Txt_LMZ04_SfnID", "Txt_LMZ04_AdmAllotID",
-                               "Txt_KV19_assoc_allot_sfnID"}) {
+      for (const ControlName name : ControlNames{"Txt_trg_lat_NS", "Txt_trg_long_EW", "Txt_LMZ04_SfnID",
+                                                 "Txt_LMZ04_AdmAllotID", "Txt_KV19_assoc_allot_sfnID"}) {
         typeLetter(hand, name, "b", "B");
       }
     });

@@ -7,7 +7,7 @@ namespace zamo::test {
 namespace {
 
 struct Grid {
-  const char* button;
+  ControlName button;
   const char* boxes;
   const char* caption;
   const char* valueLabel;
@@ -71,7 +71,7 @@ class FillFromForm : public RealForm {
   static Texts gridOf(const Operator& hand, const Grid& grid) {
     Texts all;
     for (int azimuth = 0; azimuth < 360; azimuth += 10)
-      all.push_back(hand.text(grid.boxes + std::to_string(1000 + azimuth).substr(1)));
+      all.push_back(hand.text(madeName(grid.boxes + std::to_string(1000 + azimuth).substr(1))));
     return all;
   }
 };
@@ -148,7 +148,7 @@ TEST_F(FillFromForm, azimuths_that_are_none_and_a_range_that_ends_first_are_told
 
 TEST_F(FillFromForm, attenuations_end_at_40) {
   onBoth([this](Operator& hand) {
-    for (const char* button : {"Button_Fill9NH", "Button_Fill9NV"}) {
+    for (const ControlName button : ControlNames{"Button_Fill9NH", "Button_Fill9NV"}) {
       dialogSteps.push_back([this](QDialog& dialog) {
         for (const char* wrong : {"40.1", "-0.1", "x"}) {
           EXPECT_FALSE(enter(dialog, "TxtValue", wrong)) << wrong;

@@ -104,7 +104,7 @@ TEST_F(FormFlows, an_assignment_without_an_article_is_refused_first) {
     openNew(ntc, [this](Operator& hand) {
       EXPECT_FALSE(hand.isSet("Opt_Art4"));
       EXPECT_FALSE(hand.isSet("Opt_Art5"));
-      for (const char* button : {"Button_Validate", "Button_Next", "Button_AddNew"}) {
+      for (const ControlName button : ControlNames{"Button_Validate", "Button_Next", "Button_AddNew"}) {
         hand.click(button);
         expectTold({"Select Article: Please select under which article this assignment is been submitted"});
       }
@@ -329,7 +329,7 @@ class Walk : public RealForm {
   void addDeleted() { appendKeyToList(run.IndexList, run.NtcCount, 888888888); }
 
   // One form of the walk: what it shows, and the button that leads on.
-  FormStep stop(std::int32_t key, bool hasPrev, bool hasNext, const char* button) {
+  FormStep stop(std::int32_t key, bool hasPrev, bool hasNext, ControlName button) {
     return [=, this](Operator& hand) {
       EXPECT_EQ(hand.text("Txt_Ntc_Number"), std::to_string(key));
       EXPECT_EQ(hand.text("Txt_Filename"), run.DbFileName);

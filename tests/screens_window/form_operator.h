@@ -21,6 +21,7 @@
 #include <string>
 #include <vector>
 
+#include "screens/control_text.h"
 #include "screens/form_widgets.h"
 #include "screens/notice_window.h"
 #include "widgets/qt_text.h"
@@ -56,35 +57,35 @@ class Operator {
   // --- what is seen
 
   template <typename Widget = QWidget>
-  Widget& control(const std::string& name) const {
-    return childOf<Widget>(window, name);
+  Widget& control(ControlName name) const {
+    return childOf<Widget>(window, std::string(name));
   }
 
   // On its page, whichever page is in front.
-  bool sees(const std::string& name) const {
+  bool sees(ControlName name) const {
     const QWidget& one = control(name);
     for (QWidget* holder = one.parentWidget(); holder != nullptr; holder = holder->parentWidget()) {
       if (auto* const page = dynamic_cast<QScrollArea*>(holder)) return one.isVisibleTo(page->widget());
     }
     return one.isVisibleTo(&window);
   }
-  bool canUse(const std::string& name) const { return sees(name) && control(name).isEnabled(); }
+  bool canUse(ControlName name) const { return sees(name) && control(name).isEnabled(); }
 
-  std::string text(const std::string& name) const {
+  std::string text(ControlName name) const {
     const QWidget& one = control(name);
     if (auto* const box = dynamic_cast<const QLineEdit*>(&one)) return toText(box->text());
     if (auto* const combo = dynamic_cast<const QComboBox*>(&one)) return toText(combo->currentText());
     if (auto* const memo = dynamic_cast<const QPlainTextEdit*>(&one)) return toText(memo->toPlainText());
-    throw std::logic_error("no field " + name);
+    throw std::logic_error("no field " + std::string(name));
   }
-  bool isSet(const std::string& name) const { return control<QRadioButton>(name).isChecked(); }
-  std::string caption(const std::string& name) const {
+  bool isSet(ControlName name) const { return control<QRadioButton>(name).isChecked(); }
+  std::string caption(ControlName name) const {
     const QWidget& one = control(name);
     if (auto* const label = dynamic_cast<const QLabel*>(&one)) return toText(label->text());
     if (auto* const box = dynamic_cast<const QGroupBox*>(&one)) return plain(box->title());
     return plain(control<QAbstractButton>(name).text());
   }
-  Texts items(const std::string& name) const {
+  Texts items(ControlName name) const {
     Texts all;
     const QWidget& one = control(name);
     if (auto* const combo = dynamic_cast<const QComboBox*>(&one)) {
@@ -95,7 +96,7 @@ class Operator {
     for (int i = 0; i < list.count(); ++i) all.push_back(toText(list.item(i)->text()));
     return all;
   }
-  bool isGrey(const std::string& name) const {
+  bool isGrey(ControlName name) const {
     return control(name).palette().color(QPalette::Base) == QColor(0xC0, 0xC0, 0xC0);
   }
   std::string focused() const {
@@ -105,14 +106,14 @@ class Operator {
 
   Contents contents() const {
     Contents all;
-    form.screen.forEach([&](const Control& known) { note(all, known.name); });
+    form.screen.forEach([&](const Control& known) { note(all, madeName(known.name)); });
     return all;
   }
 
   // --- what is done
 
   // Brings the control's page to the front.
-  void turnTo(const std::string& name) {
+  void turnTo(ControlName name) {
     auto* const pages = window.findChild<QTabWidget*>("Pages");
     for (int i = 0; pages != nullptr && i < pages->count(); ++i) {
       if (!pages->widget(i)->isAncestorOf(&control(name)) || i == pages->currentIndex()) continue;
@@ -121,7 +122,7 @@ class Operator {
     }
   }
 
-  void click(const std::string& name) {
+  void click(ControlName name) {
     turnTo(name);
     QWidget& one = control(name);
     EXPECT_TRUE(one.isVisible()) << name << " is out of sight";
@@ -141,23 +142,19 @@ class Operator {
     QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at);
     QCoreApplication::processEvents();
   }
-  void clickSlowly(const std::string& name) {
+  void clickSlowly(ControlName name) {
     QWidget& target = control(name);
     EXPECT_TRUE(target.isVisible()) << name << " is out of sight";
     clickSlowly(target, {std::min(10, target.width() / 2), target.height() / 2});
   }
 
-  void clickItem(const std::string& name, int row) { hitItem(name, row, false); }
-  void doubleClickItem(const std::string& name, int row) { hitItem(name, row, true); }
-  void clickItem(const std::string& name, const std::string& item) {
-    hitItem(name, rowOf(name, item), false);
-  }
-  void doubleClickItem(const std::string& name, const std::string& item) {
-    hitItem(name, rowOf(name, item), true);
-  }
+  void clickItem(ControlName name, int row) { hitItem(name, row, false); }
+  void doubleClickItem(ControlName name, int row) { hitItem(name, row, true); }
+  void clickItem(ControlName name, const std::string& item) { hitItem(name, rowOf(name, item), false); }
+  void doubleClickItem(ControlName name, const std::string& item) { hitItem(name, rowOf(name, item), true); }
 
   // Puts the focus on a field as the operator does: with the mouse, on a combo with the keyboard.
-  void go(const std::string& name) {
+  void go(ControlName name) {
     turnTo(name);
     QWidget& field = control(name);
     if (dynamic_cast<QComboBox*>(&field) == nullptr) {
@@ -165,7 +162,7 @@ class Operator {
     } else {
       field.setFocus(Qt::TabFocusReason);
     }
-    EXPECT_EQ(focused(), name);
+    EXPECT_EQ(focused(), std::string(name));
   }
 
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -184,18 +181,18 @@ class Operator {
                           QString(c), Qt::NoModifier);
     }
   }
-  void type(const std::string& name, const std::string& value) {
+  void type(ControlName name, const std::string& value) {
     go(name);
     typeHere(value);
   }
   // Types and leaves the field.
-  void enter(const std::string& name, const std::string& value) {
+  void enter(ControlName name, const std::string& value) {
     type(name, value);
     tab();
   }
 
   // From the open list of a combo.
-  void pick(const std::string& name, const std::string& item) {
+  void pick(ControlName name, const std::string& item) {
     go(name);
     auto& combo = control<QComboBox>(name);
     const int row = rowOf(name, item);
@@ -214,14 +211,14 @@ class Operator {
     return toText(captioned.replace("&&", "\n").remove('&').replace('\n', '&'));
   }
 
-  int rowOf(const std::string& name, const std::string& item) const {
+  int rowOf(ControlName name, const std::string& item) const {
     const Texts all = items(name);
     const auto found = std::find(all.begin(), all.end(), item);
-    if (found == all.end()) throw std::logic_error(name + " has no item " + item);
+    if (found == all.end()) throw std::logic_error(std::string(name) + " has no item " + item);
     return static_cast<int>(found - all.begin());
   }
 
-  void hitItem(const std::string& name, int row, bool twice) {
+  void hitItem(ControlName name, int row, bool twice) {
     turnTo(name);
     auto& list = control<PickList>(name);
     list.scrollToItem(list.item(row));
@@ -231,19 +228,19 @@ class Operator {
     QCoreApplication::processEvents();
   }
 
-  void note(Contents& all, const std::string& name) const {
+  void note(Contents& all, ControlName name) const {
     const QWidget& one = control(name);
     if (dynamic_cast<const PickList*>(&one) != nullptr) {
       if (name == "ListAdmAvail") return;
       std::string joined;
       for (const std::string& item : items(name)) joined += (joined.empty() ? "" : "|") + item;
-      if (!joined.empty()) all[name] = joined;
+      if (!joined.empty()) all[std::string(name)] = joined;
     } else if (auto* const option = dynamic_cast<const QRadioButton*>(&one)) {
-      if (option->isChecked()) all[name] = "set";
+      if (option->isChecked()) all[std::string(name)] = "set";
     } else if (dynamic_cast<const QLineEdit*>(&one) != nullptr ||
                dynamic_cast<const QComboBox*>(&one) != nullptr ||
                dynamic_cast<const QPlainTextEdit*>(&one) != nullptr) {
-      if (!text(name).empty()) all[name] = text(name);
+      if (!text(name).empty()) all[std::string(name)] = text(name);
     }
   }
 };

@@ -51,16 +51,16 @@ TEST_F(FormRules, directivity_and_polarization_tell_which_attenuations_and_power
         SCOPED_TRACE(std::string(row.antDir) + " " + row.polariz);
         hand.pick("Combo_9_AntDir", row.antDir);
         hand.pick("Combo_9D_Polariz", row.polariz);
-        for (const char* name : {"Frame_9NH_AttnH", "Button_Fill9NH"})
+        for (const ControlName name : ControlNames{"Frame_9NH_AttnH", "Button_Fill9NH"})
           EXPECT_EQ(hand.sees(name), row.h) << name;
-        for (const char* name : {"Frame_9NV_AttnV", "Button_Fill9NV"})
+        for (const ControlName name : ControlNames{"Frame_9NV_AttnV", "Button_Fill9NV"})
           EXPECT_EQ(hand.sees(name), row.v) << name;
         EXPECT_EQ(hand.sees("Txt_9NHAzm000"), row.h);
         EXPECT_EQ(hand.sees("Txt_9NVAzm000"), row.v);
         const std::string polariz = row.polariz;
-        for (const char* name : {"Txt_8BH_Erp_H", "Lbl_8BH_Erp_H"})
+        for (const ControlName name : ControlNames{"Txt_8BH_Erp_H", "Lbl_8BH_Erp_H"})
           EXPECT_EQ(hand.sees(name), polariz != "V");
-        for (const char* name : {"Txt_8BV_Erp_V", "Lbl_8BV_Erp_V"})
+        for (const ControlName name : ControlNames{"Txt_8BV_Erp_V", "Lbl_8BV_Erp_V"})
           EXPECT_EQ(hand.sees(name), polariz != "H");
       }
     });
@@ -80,8 +80,8 @@ constexpr PlanCase kPlanCases[] = {
 
 TEST_F(FormRules, the_plan_entry_tells_which_identifiers_there_are_and_clears_the_others) {
   struct Identifier {
-    const char* box;
-    const char* label;
+    ControlName box;
+    ControlName label;
     bool PlanCase::*shown;
   };
   constexpr Identifier identifiers[] = {
@@ -128,7 +128,8 @@ TEST_F(FormRules, a_modification_under_article_4_names_the_notice_itself) {
       hand.click("OptInt_Mod");
       EXPECT_TRUE(hand.sees("FrameTrg"));
       EXPECT_EQ(hand.text("Txt_TrgAdmRefID"), "F-0001");
-      for (const char* name : {"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_lat_NS", "Lbl_trg_or"})
+      for (const ControlName name :
+           ControlNames{"Txt_trg_freq_assgn", "Txt_trg_long_DD", "Txt_trg_lat_NS", "Lbl_trg_or"})
         EXPECT_FALSE(hand.sees(name)) << name;
       hand.click("OptInt_Add");
       EXPECT_FALSE(hand.sees("FrameTrg"));
@@ -138,11 +139,12 @@ TEST_F(FormRules, a_modification_under_article_4_names_the_notice_itself) {
 }
 
 TEST_F(FormRules, a_television_system_and_a_planning_configuration_exclude_each_other) {
-  const Texts system = {"Combo_LMZ04_Sys_Var", "Lbl_LMZ04_DigSys", "Combo_LMZ04_RxMode", "Lbl_LMZ04_RxMode"};
-  const Texts planning = {"Combo_LMZ04_RefPlan", "Lbl_LMZ04_RefPlan"};
+  const std::vector<ControlName> system = {"Combo_LMZ04_Sys_Var", "Lbl_LMZ04_DigSys", "Combo_LMZ04_RxMode",
+                                           "Lbl_LMZ04_RxMode"};
+  const std::vector<ControlName> planning = {"Combo_LMZ04_RefPlan", "Lbl_LMZ04_RefPlan"};
   openNew("GT1", [&](Operator& hand) {
-    const auto expectSeen = [&](const Texts& names, bool seen) {
-      for (const std::string& name : names) EXPECT_EQ(hand.sees(name), seen) << name;
+    const auto expectSeen = [&](const std::vector<ControlName>& names, bool seen) {
+      for (const ControlName name : names) EXPECT_EQ(hand.sees(name), seen) << name;
       EXPECT_FALSE(hand.sees("LblOr"));
     };
     expectSeen(system, false);
@@ -204,7 +206,7 @@ TEST_F(FormRules, the_vertical_diagram_is_told_in_the_forms_own_words) {
 TEST_F(FormRules, of_a_non_directional_antenna_no_diagram_is_asked) {
   for (const char* kind : {"GS1", "GT1"}) {
     openNew(kind, [&](Operator& hand) {
-      for (const char* box : {"Txt_9NHAzm000", "Txt_9NHAzm100"}) hand.enter(box, "");
+      for (const ControlName box : ControlNames{"Txt_9NHAzm000", "Txt_9NHAzm100"}) hand.enter(box, "");
       hand.click("Button_Next");
       ASSERT_EQ(script.questions.size(), 1U);
       EXPECT_THAT(script.questions[0].text, testing::HasSubstr("<ANT_DIAGR_H>"));
@@ -260,7 +262,7 @@ TEST_F(FormRules, a_sound_assignment_without_an_antenna_height_can_be_saved_by_w
 TEST_F(FormRules, what_identifies_a_notice_is_told_in_the_words_of_each_form) {
   struct Case {
     const char* kind;
-    const char* field;
+    ControlName field;
     const char* told;
   };
   const Case cases[] = {
@@ -352,8 +354,8 @@ TEST_F(FormRules, the_attenuations_of_a_non_directional_antenna_are_neither_fill
     open(run.NtcCount - 1, [&](Operator& hand) {
       EXPECT_EQ(hand.text("Combo_9_AntDir"), "ND");
       for (const char* azimuth : {"000", "010", "350"}) {
-        EXPECT_EQ(hand.text(std::string("Txt_9NHAzm") + azimuth), "");
-        EXPECT_EQ(hand.text(std::string("Txt_9EC_azm") + azimuth), "250");
+        EXPECT_EQ(hand.text(madeName(std::string("Txt_9NHAzm") + azimuth)), "");
+        EXPECT_EQ(hand.text(madeName(std::string("Txt_9EC_azm") + azimuth)), "250");
       }
       hand.pick("Combo_9_AntDir", "D");
       hand.enter("Txt_9NHAzm010", "3");
@@ -369,7 +371,11 @@ TEST_F(FormRules, the_target_of_an_addition_is_not_read) {
   for (const char* kind : {"GS1/5", "GT1/5"}) {
     const std::int32_t key = openNew(kind, [&](Operator& hand) {
       hand.click("OptInt_Mod");
-      const std::pair<const char*, const char*> target[] = {
+      struct Typed {
+        ControlName box;
+        const char* value;
+      };
+      constexpr Typed target[] = {
           {"Txt_trg_freq_assgn", "474"}, {"Txt_trg_long_DD", "2"}, {"Txt_trg_long_MM", "7"},
           {"Txt_trg_long_SS", "9"},      {"Txt_trg_long_EW", "E"}, {"Txt_trg_lat_DD", "7"},
           {"Txt_trg_lat_MM", "6"},       {"Txt_trg_lat_SS", "5"},  {"Txt_trg_lat_NS", "N"}};

@@ -64,7 +64,7 @@ TEST(Layouts, every_control_stands_in_its_frame) {
     ShownForm shown(code);
     shown.show();
     for (const ControlRow& row : controlRows(code)) {
-      const QWidget* frame = shown.control(std::string(row.name)).parentWidget();
+      const QWidget* frame = shown.control(madeName(row.name)).parentWidget();
       while (frame != shown.window.get() && (!frame->inherits("QGroupBox") || frame->objectName().isEmpty()))
         frame = frame->parentWidget();
       const std::string name = frame == shown.window.get() ? "" : frame->objectName().toStdString();
@@ -86,7 +86,7 @@ TEST(Layouts, captions_and_tips_are_those_of_the_table) {
     ShownForm shown(code);
     shown.show();
     for (const ControlRow& row : controlRows(code)) {
-      const QWidget& widget = shown.control(std::string(row.name));
+      const QWidget& widget = shown.control(madeName(row.name));
       EXPECT_EQ(toText(captionOf(widget)), row.caption) << row.name;
       EXPECT_EQ(toText(widget.toolTip()), row.tip) << row.name;
     }
@@ -103,7 +103,7 @@ std::vector<std::string> tabOrder(ShownForm& shown) {
   const QWidget* next = first;
   do {
     const std::string name = next->objectName().toStdString();
-    const bool isControl = shown.form.screen.has(name) && (next->focusPolicy() & Qt::TabFocus) != 0;
+    const bool isControl = shown.form.screen.has(madeName(name)) && (next->focusPolicy() & Qt::TabFocus) != 0;
     if (isControl && !name.starts_with("Txt_9EC_azm") && !name.starts_with("Txt_9N")) names.push_back(name);
     next = next->nextInFocusChain();
   } while (next != first);
@@ -111,8 +111,9 @@ std::vector<std::string> tabOrder(ShownForm& shown) {
 }
 
 std::vector<std::string> withButtons(std::vector<std::string> names) {
-  for (const char* const button : {"Button_Next", "Button_AddNew", "Button_Finish", "Button_Validate",
-                                   "Button_Prev_Ntc", "Button_Next_Ntc", "Button_Reset"})
+  for (const ControlName button :
+       ControlNames{"Button_Next", "Button_AddNew", "Button_Finish", "Button_Validate", "Button_Prev_Ntc",
+                    "Button_Next_Ntc", "Button_Reset"})
     names.emplace_back(button);
   return names;
 }
@@ -332,7 +333,7 @@ TEST(TabOrder, goes_round_a_grid_with_the_azimuth) {
 // What an operator reads must not be cut off.
 void expectNothingIsCut(ShownForm& shown) {
   for (const ControlRow& row : controlRows(shown.form.screen.code())) {
-    const QWidget& widget = shown.control(std::string(row.name));
+    const QWidget& widget = shown.control(madeName(row.name));
     if (!widget.isVisible() || row.kind == ControlKind::frame) continue;
     const bool isRead =
         row.kind == ControlKind::label || row.kind == ControlKind::button || row.kind == ControlKind::option;
@@ -352,7 +353,7 @@ void expectNoScrollingSideways(ShownForm& shown) {
   }
 }
 
-void expectShownWhole(ShownForm& shown, const std::string& name, const QString& text) {
+void expectShownWhole(ShownForm& shown, ControlName name, const QString& text) {
   const QLineEdit& box = shown.box(name);
   QStyleOptionFrame frame;
   frame.initFrom(&box);
@@ -439,7 +440,7 @@ TEST(Layouts, the_common_buttons_are_always_in_sight) {
     ShownForm shown(code);
     shown.show(kDisplayScaledTwice);
     for (const ButtonRow& row : kButtonStrip) {
-      QPushButton& button = shown.button(std::string(row.control));
+      QPushButton& button = shown.button(row.control);
       EXPECT_EQ(button.visibleRegion().boundingRect(), button.rect()) << code << " " << row.control;
     }
   }

@@ -84,7 +84,8 @@ TEST_F(TelevisionAssignment, escape_closes_an_open_list_and_chooses_nothing) {
 
 TEST_F(TelevisionAssignment, a_tip_with_markup_is_shown_as_it_stands) {
   show();
-  for (const char* const name : {"Txt_9E_AntHgt", "Combo_9D_Polariz", "Lbl_9E_AntHgt", "Button_Validate"}) {
+  for (const ControlName name :
+       ControlNames{"Txt_9E_AntHgt", "Combo_9D_Polariz", "Lbl_9E_AntHgt", "Button_Validate"}) {
     control(name).setToolTip("<b>A</b> <img src='/dev/zero'>");
     EXPECT_EQ(test::tipAt(control(name), {2, 2}), "<b>A</b> <img src='/dev/zero'>") << name;
   }
@@ -137,7 +138,7 @@ TEST_F(TelevisionAssignment, only_countries_and_areas_can_be_typed_in_combos_and
   show();
   form.screen.forEach([this](const Control& control) {
     if (control.kind == ControlKind::combo) {
-      EXPECT_EQ(combo(control.name).isEditable(), control.name == "Combo_4B_Ctry") << control.name;
+      EXPECT_EQ(combo(madeName(control.name)).isEditable(), control.name == "Combo_4B_Ctry") << control.name;
     }
   });
   QComboBox& country = combo("Combo_4B_Ctry");
@@ -182,7 +183,7 @@ TEST_F(TelevisionAssignment, the_tab_key_finds_a_group_of_options_at_the_one_tha
   form.screen.setOption("OptInt_Mod");
   form.screen.setOption("Opt_Art5");
   show();
-  const auto step = [this](const char* from, Qt::Key key) {
+  const auto step = [this](ControlName from, Qt::Key key) {
     control(from).setFocus();
     QTest::keyClick(&control(from), key);
     return focused();
@@ -306,14 +307,14 @@ TEST_F(TelevisionAssignment, a_character_beyond_the_code_page_is_shown_as_it_is_
 
 TEST_F(TelevisionAssignment, letters_are_upper_case_in_the_fields_that_want_them) {
   show();
-  const char* const upper[] = {"Txt_AdmRefID",      "Txt_TrgAdmRefID",
-                               "Txt_PlanAdm_RefID", "Txt_4A_SiteName",
-                               "Txt_4C_EW",         "Txt_4C_NS",
-                               "Txt_trg_lat_NS",    "Txt_trg_long_EW",
-                               "Txt_12A_OpAgcy",    "Txt_12B_AddrCde",
-                               "Txt_3A1_CallSign",  "Txt_LMZ04_AdmAllotID",
-                               "Txt_LMZ04_SfnID",   "Txt_KV19_assoc_allot_sfnID"};
-  for (const char* const name : upper) {
+  constexpr ControlName upper[] = {"Txt_AdmRefID",      "Txt_TrgAdmRefID",
+                                   "Txt_PlanAdm_RefID", "Txt_4A_SiteName",
+                                   "Txt_4C_EW",         "Txt_4C_NS",
+                                   "Txt_trg_lat_NS",    "Txt_trg_long_EW",
+                                   "Txt_12A_OpAgcy",    "Txt_12B_AddrCde",
+                                   "Txt_3A1_CallSign",  "Txt_LMZ04_AdmAllotID",
+                                   "Txt_LMZ04_SfnID",   "Txt_KV19_assoc_allot_sfnID"};
+  for (const ControlName name : upper) {
     QTest::keyClicks(&box(name), "e");
     EXPECT_EQ(form.screen.text(name), "E") << name;
   }
@@ -393,7 +394,7 @@ TEST_F(TelevisionAssignment, captions_and_the_title_follow) {
 
 TEST_F(TelevisionAssignment, what_is_hidden_leaves_its_place) {
   show();
-  const auto placeOf = [this](const char* name) { return control(name).mapTo(window.get(), QPoint()); };
+  const auto placeOf = [this](ControlName name) { return control(name).mapTo(window.get(), QPoint()); };
   test::waitForLayouts();
   const QPoint site = placeOf("Txt_4A_SiteName");
   const QPoint planEntry = placeOf("Txt_PlanAdm_RefID");
@@ -446,8 +447,9 @@ TEST_F(TelevisionAssignment, file_and_number_of_the_notice_are_only_read) {
 
 TEST_F(TelevisionAssignment, numbers_stand_at_the_right_end) {
   show();
-  for (const char* const name : {"Txt_9EC_azm000", "Txt_9NVAzm350", "Txt_4C_Deg_Lat", "Txt_KV19_freqAssgn",
-                                 "Txt_8BH_Erp_H", "Txt_Exp_YY", "Txt_trg_freq_assgn"})
+  for (const ControlName name :
+       ControlNames{"Txt_9EC_azm000", "Txt_9NVAzm350", "Txt_4C_Deg_Lat", "Txt_KV19_freqAssgn",
+                    "Txt_8BH_Erp_H", "Txt_Exp_YY", "Txt_trg_freq_assgn"})
     EXPECT_TRUE(box(name).alignment() & Qt::AlignRight) << name;
   EXPECT_TRUE(box("Txt_4A_SiteName").alignment() & Qt::AlignLeft);
 }
@@ -467,7 +469,7 @@ TEST_F(TelevisionAssignment, the_window_lets_go_of_the_screen) {
 class WrongHeight : public TelevisionAssignment {
  protected:
   WrongHeight() {
-    mayLeave = [this](std::string_view name) {
+    mayLeave = [this](ControlName name) {
       if (name != "Txt_9E_AntHgt") return true;
       ++asked;
       askedByUser = form.screen.byUser;
@@ -535,7 +537,7 @@ TEST_F(WrongHeight, stays_when_escape_is_pressed) {
 }
 
 TEST_F(TelevisionAllotment, a_field_that_hands_the_focus_on_when_it_is_left_has_its_way) {
-  mayLeave = [this](std::string_view name) {
+  mayLeave = [this](ControlName name) {
     if (name == "Txt_LMZ04_nb_sub_areas") form.screen.setFocus("Txt_LMZ04_contour_id");
     return true;
   };
@@ -620,7 +622,7 @@ TEST_F(TelevisionAssignment, the_wheel_changes_no_value_and_no_page) {
 }
 
 TEST_F(TelevisionAssignment, a_button_that_is_disabled_by_its_click_hands_the_focus_back) {
-  onRaised = [this](Event, std::string_view name) { form.screen.setEnabled(name, false); };
+  onRaised = [this](Event, ControlName name) { form.screen.setEnabled(name, false); };
   show();
   pages().setCurrentIndex(2);
   button("Button_Coord_Add").setFocus();
@@ -634,7 +636,7 @@ TEST_F(TelevisionAssignment, a_button_that_is_disabled_by_its_click_hands_the_fo
 // --- failures
 
 TEST_F(TelevisionAssignment, a_failure_is_told_in_a_box_and_the_form_stays) {
-  onRaised = [](Event, std::string_view name) {
+  onRaised = [](Event, ControlName name) {
     if (name == "Button_Next") throw RunTimeError{kPermissionDenied, "database is locked"};
     if (name == "Button_AddNew") throw std::runtime_error("no such thing");
     if (name == "Button_Finish") throw std::bad_alloc();

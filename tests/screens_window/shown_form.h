@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "screens/control_table.h"
+#include "screens/control_text.h"
 #include "screens/form_widgets.h"
 #include "screens/notice_window.h"
 #include "support/scripted_host.h"
@@ -33,40 +34,41 @@ class ShownForm {
  public:
   explicit ShownForm(FormCode code) : form(work, code) {
     makeControls(form.screen);
-    form.screen.raised = [this](Event event, std::string_view name) {
+    form.screen.raised = [this](Event event, ControlName name) {
       raised.push_back(nameOf(event) + " " + std::string(name) + (form.screen.byUser ? " by the user" : ""));
       if (onRaised) onRaised(event, name);
     };
   }
 
   void show(QSize size = {}) {
-    window = std::make_unique<NoticeWindow>(
-        form, [this](NoticeForm&, std::string_view name) { return mayLeave(name); });
+    window = std::make_unique<NoticeWindow>(form,
+                                            [this](NoticeForm&, ControlName name) { return mayLeave(name); });
     if (size.isValid()) window->resize(size);
     window->show();
     (void)QTest::qWaitForWindowActive(window.get());
   }
 
   template <typename Widget = QWidget>
-  Widget& control(const std::string& name) {
-    auto* const found = dynamic_cast<Widget*>(window->findChild<QWidget*>(QString::fromStdString(name)));
-    if (found == nullptr) throw std::logic_error("no control " + name);
+  Widget& control(ControlName name) {
+    auto* const found =
+        dynamic_cast<Widget*>(window->findChild<QWidget*>(QString::fromStdString(std::string(name))));
+    if (found == nullptr) throw std::logic_error("no control " + std::string(name));
     return *found;
   }
-  QLineEdit& box(const std::string& name) { return control<QLineEdit>(name); }
-  QComboBox& combo(const std::string& name) { return control<QComboBox>(name); }
-  PickList& list(const std::string& name) { return control<PickList>(name); }
-  QRadioButton& option(const std::string& name) { return control<QRadioButton>(name); }
-  QPushButton& button(const std::string& name) { return control<QPushButton>(name); }
-  QPlainTextEdit& memo(const std::string& name) { return control<QPlainTextEdit>(name); }
-  QTabWidget& pages() { return control<QTabWidget>("Pages"); }
+  QLineEdit& box(ControlName name) { return control<QLineEdit>(name); }
+  QComboBox& combo(ControlName name) { return control<QComboBox>(name); }
+  PickList& list(ControlName name) { return control<PickList>(name); }
+  QRadioButton& option(ControlName name) { return control<QRadioButton>(name); }
+  QPushButton& button(ControlName name) { return control<QPushButton>(name); }
+  QPlainTextEdit& memo(ControlName name) { return control<QPlainTextEdit>(name); }
+  QTabWidget& pages() { return *window->findChild<QTabWidget*>("Pages"); }
 
   std::string focused() const {
     const QWidget* const widget = window->focusWidget();
     return widget == nullptr ? "" : widget->objectName().toStdString();
   }
 
-  void clickItem(const std::string& name, int row) {
+  void clickItem(ControlName name, int row) {
     PickList& items = list(name);
     QTest::mouseClick(items.viewport(), Qt::LeftButton, {}, items.visualItemRect(items.item(row)).center());
   }
@@ -80,8 +82,8 @@ class ShownForm {
   Application application;
   NoticeForm form;
   std::vector<std::string> raised;
-  std::function<void(Event, std::string_view)> onRaised;
-  std::function<bool(std::string_view)> mayLeave = [](std::string_view) { return true; };
+  std::function<void(Event, ControlName)> onRaised;
+  std::function<bool(ControlName)> mayLeave = [](ControlName) { return true; };
   std::unique_ptr<NoticeWindow> window;
 
  private:

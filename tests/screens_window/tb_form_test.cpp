@@ -15,13 +15,13 @@ const std::string kAskAdd = "Save Notice: ADD this NEW notice to the END of Data
 const std::string kUpdated = "Save Notice: The notice was sucessfully updated in the Database";
 const std::string kAdded = "Save Notice: The NEW notice was sucessfully saved to the Database";
 
-const Texts kOfStoredNotices = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
-                                "Button_Next",    "Button_Next_Ntc", "Button_Prev_Ntc"};
+const std::vector<ControlName> kOfStoredNotices = {"Txt_Ntc_Number", "Lbl_Ntc_Number",  "Button_Finish",
+                                                   "Button_Next",    "Button_Next_Ntc", "Button_Prev_Ntc"};
 
 class CreatedNotice : public RealForm {
  protected:
   // From a notice of this kind, with the option; the step gets the form that opens.
-  void create(const NtcRec& ntc, const std::string& option, FormStep onCreated) {
+  void create(const NtcRec& ntc, ControlName option, FormStep onCreated) {
     openNew(ntc, [&](Operator& hand) {
       const Contents before = hand.contents();
       hand.click(option);
@@ -30,14 +30,14 @@ class CreatedNotice : public RealForm {
       EXPECT_TRUE(steps.empty()) << "nothing opened";
       EXPECT_FALSE(work.state.ntcFromOtherNotice);
       Contents after = before;
-      after[option] = "set";
+      after[std::string(option)] = "set";
       EXPECT_EQ(hand.contents(), after);
     });
   }
 
   static void expectFresh(const Operator& hand) {
-    for (const std::string& name : kOfStoredNotices) EXPECT_FALSE(hand.sees(name)) << name;
-    for (const char* name : {"Button_AddNew", "Button_Validate", "Button_Reset"})
+    for (const ControlName name : kOfStoredNotices) EXPECT_FALSE(hand.sees(name)) << name;
+    for (const ControlName name : ControlNames{"Button_AddNew", "Button_Validate", "Button_Reset"})
       EXPECT_TRUE(hand.canUse(name)) << name;
     EXPECT_EQ(hand.text("Combo_B_Adm"), "F");
     EXPECT_FALSE(hand.canUse("Combo_B_Adm"));
@@ -232,20 +232,20 @@ TEST_F(TbForms, a_notice_that_is_alone_is_shown_anew_under_its_new_key) {
 }
 
 TEST_F(TbForms, leaving_the_target_of_a_TB2_with_a_value_hides_frequency_and_place) {
-  const Texts place = {"LblOr",           "Lbl_FreqUnit", "lbl_freqAssgn",   "Lbl_4C_Long",
-                       "Lbl_4C_Lat",      "Txt_TrgFreq",  "Txt_4C_Deg_Long", "Txt_4C_Min_Long",
-                       "Txt_4C_Sec_Long", "Txt_4C_EW",    "Txt_4C_Deg_Lat",  "Txt_4C_Min_Lat",
-                       "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
+  const std::vector<ControlName> place = {
+      "LblOr",          "Lbl_FreqUnit",    "lbl_freqAssgn",   "Lbl_4C_Long",     "Lbl_4C_Lat",
+      "Txt_TrgFreq",    "Txt_4C_Deg_Long", "Txt_4C_Min_Long", "Txt_4C_Sec_Long", "Txt_4C_EW",
+      "Txt_4C_Deg_Lat", "Txt_4C_Min_Lat",  "Txt_4C_Sec_Lat",  "Txt_4C_NS"};
   openNew("TB2", [&](Operator& hand) {
     hand.enter("Txt_TrgAdmRefID", "");
-    for (const std::string& name : place) EXPECT_TRUE(hand.sees(name)) << name;
+    for (const ControlName name : place) EXPECT_TRUE(hand.sees(name)) << name;
     hand.type("Txt_TrgAdmRefID", "F-0007");
-    for (const std::string& name : place) EXPECT_TRUE(hand.sees(name)) << name << " while typing";
+    for (const ControlName name : place) EXPECT_TRUE(hand.sees(name)) << name << " while typing";
     hand.click("Txt_12A_OpAgcy");
-    for (const std::string& name : place) EXPECT_FALSE(hand.sees(name)) << name;
+    for (const ControlName name : place) EXPECT_FALSE(hand.sees(name)) << name;
     hand.type("Txt_TrgAdmRefID", "");
     hand.click("Txt_12A_OpAgcy");
-    for (const std::string& name : place) EXPECT_TRUE(hand.sees(name)) << name;
+    for (const ControlName name : place) EXPECT_TRUE(hand.sees(name)) << name;
   });
   expectTold({});
 }
@@ -265,15 +265,16 @@ TEST_F(TbForms, a_TB2_whose_target_is_a_place_shows_it_instead_of_the_reference)
   openNew(ntc, [](Operator& hand) {
     EXPECT_EQ(hand.text("Txt_TrgFreq"), "474");
     EXPECT_EQ(hand.text("Txt_4C_EW"), "E");
-    for (const char* name : {"Txt_TrgFreq", "Txt_4C_Deg_Long", "Txt_4C_NS", "Lbl_4C_Long", "Lbl_4C_Lat"})
+    for (const ControlName name :
+         ControlNames{"Txt_TrgFreq", "Txt_4C_Deg_Long", "Txt_4C_NS", "Lbl_4C_Long", "Lbl_4C_Lat"})
       EXPECT_TRUE(hand.sees(name)) << name;
-    for (const char* name : {"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"})
+    for (const ControlName name : ControlNames{"Txt_TrgAdmRefID", "Lbl_trg_YBKO", "LblOr"})
       EXPECT_FALSE(hand.sees(name)) << name;
   });
 }
 
 struct Refusal {
-  const char* field;
+  ControlName field;
   const char* wrong;
   const char* told;
   const char* right;
@@ -329,12 +330,12 @@ TEST_F(TbForms, the_agency_of_a_TB2_gets_its_zeros_without_a_word) {
 
 TEST_F(TbForms, the_blank_hours_of_a_TB2_are_those_of_a_whole_day_when_it_is_saved) {
   openNew("TB2", [this](Operator& hand) {
-    for (const char* box : {"Txt_10B_Ophhfr", "Txt_10B_Ophhto"}) hand.enter(box, "");
+    for (const ControlName box : ControlNames{"Txt_10B_Ophhfr", "Txt_10B_Ophhto"}) hand.enter(box, "");
     dialogSteps.push_back([](QDialog&) {});
     hand.click("Button_Validate");
     EXPECT_EQ(hand.text("Txt_10B_Ophhfr"), "0000");
     EXPECT_EQ(hand.text("Txt_10B_Ophhto"), "2400");
-    for (const char* box : {"Txt_10B_Ophhfr", "Txt_10B_Ophhto"}) hand.enter(box, "");
+    for (const ControlName box : ControlNames{"Txt_10B_Ophhfr", "Txt_10B_Ophhto"}) hand.enter(box, "");
     script.answers = {true};
     hand.click("Button_Next");
   });
