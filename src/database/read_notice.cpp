@@ -8,6 +8,7 @@
 #include "database/operation.h"
 #include "database/recordset.h"
 #include "model/notice_words.h"
+#include "model/test_points.h"
 #include "noticefile/writer_text.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -26,7 +27,6 @@ const Message kRemarkTruncated("box \"Contour Remarks\": the remark of a contour
 
 constexpr const char* kReadError = "Read Error";
 constexpr std::size_t kLongestContourRemark = 80;
-constexpr double kMostTestPoints = 32767;
 
 enum class Cleaning { raw, rawUnlessBlank, trim, upper, pad2, pad3, pad4 };
 using enum Cleaning;
@@ -285,14 +285,6 @@ bool readDiagram(Recordset rows, AzimuthEntries& entries) {
     rows.MoveNext();
   }
   return true;
-}
-
-// One place more than the contour tells.
-void sizePoints(ContourRec& contour) {
-  const double count = std::trunc(leadingNumber(contour.t_nb_test_pts));
-  if (count < 0) throwOutOfRange();
-  if (count > kMostTestPoints) throw RunTimeError{kOverflow, "Overflow"};
-  contour.points.assign(static_cast<std::size_t>(count) + 1, {});
 }
 
 PointRec readPoint(const Recordset& rows) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/text.h"
+
 namespace zamo {
 
 inline constexpr std::string_view kHeadTag = "<HEAD>";
@@ -31,6 +33,11 @@ bool parseAzimuthKey(std::string_view key, std::string_view& azimuth);
 
 inline bool isTagLine(std::string_view line) {
   return !line.empty() && line.front() == '<';
+}
+
+// Whether the line is the tag, in any case.
+inline bool isTag(std::string_view line, std::string_view tag) {
+  return isTagLine(line) && equalsIgnoringCase(line, tag);
 }
 
 // <HEAD>, <NOTICE> or <TAIL>, in any case.

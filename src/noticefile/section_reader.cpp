@@ -7,6 +7,8 @@
 
 #include "model/fields.h"
 #include "model/notice_words.h"
+#include "model/presence.h"
+#include "model/test_points.h"
 #include "platform/coordinates.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -16,18 +18,12 @@
 namespace zamo {
 namespace {
 
-constexpr double kMostTestPoints = 32767;
-
 // clang-format off
 const Message kDuplicateKey("a key is given twice; %1 is the label of the notice", "FATAL ERROR : \r\n%1 : %2 : Duplicate key\r\n");
 const Message kDuplicateContourId("a t_contour_id is given twice, compared as a number", "FATAL ERROR : \r\n%1 : %2 : Duplicate Contour ID : %3 Value will be ignored\r\n");
 const Message kOneContourId("GA1: more than one t_contour_id before t_notice_type", "FATAL ERROR : \r\n%1 : GA1 can have only ONE t_contour_id \r\n");
 const Message kTooManyValues("<ANT_HGT>, <ANT_DIAGR_H>, <ANT_DIAGR_V>: a 37th value", "FATAL ERROR : \r\n%1 : Cannot notify more than 36 values");
 // clang-format on
-
-bool isTag(std::string_view line, std::string_view tag) {
-  return isTagLine(line) && equalsIgnoringCase(line, tag);
-}
 
 std::string duplicateKey(const SectionReading& reading) {
   return kDuplicateKey.filled({reading.prefix, reading.keyValue.key});
@@ -61,26 +57,6 @@ struct NoticeReading {
   bool pointsAreSized = false;
   std::size_t points = 0;
 };
-
-void markPresent(NtcRec& ntc, Group group) {
-  switch (group) {
-    case Group::main:
-      break;
-    case Group::opHours:
-      ntc.op_hours.present = true;
-      break;
-    case Group::allot:
-      ntc.digital.allot.present = true;
-      ntc.digital.present = true;
-      break;
-    case Group::digital:
-      ntc.digital.present = true;
-      break;
-    case Group::contour:
-      ntc.digital.contour.present = true;
-      break;
-  }
-}
 
 std::string storedForm(StoredAs storedAs, std::string_view value) {
   switch (storedAs) {
@@ -188,15 +164,6 @@ void settleNoticeType(NoticeReading& notice) {
   settleBufferedContourIds(notice);
 }
 
-void sizePoints(NoticeReading& notice) {
-  ContourRec& contour = notice.section.ntc.digital.contour;
-  const double count = std::trunc(leadingNumber(contour.t_nb_test_pts));
-  if (count < 0) throwOutOfRange();
-  if (count > kMostTestPoints) throw RunTimeError{kOverflow, "Overflow"};
-  contour.points.assign(static_cast<std::size_t>(count) + 1, {});
-  notice.pointsAreSized = true;
-}
-
 void storeKey(NoticeReading& notice) {
   SectionReading& section = notice.section;
   const FieldRow* row = findField(section.keyValue.key);
@@ -216,7 +183,10 @@ void storeKey(NoticeReading& notice) {
     field = storedForm(row->storedAs, value);
     markPresent(section.ntc, row->group);
     if (row->storedAs == StoredAs::noticeType) settleNoticeType(notice);
-    if (row->storedAs == StoredAs::testPointCount) sizePoints(notice);
+    if (row->storedAs == StoredAs::testPointCount) {
+      sizePoints(section.ntc.digital.contour);
+      notice.pointsAreSized = true;
+    }
   }
 }
 

@@ -172,10 +172,6 @@ static_assert(countRules() == std::size(kEnumerations) + std::size(kFreeTexts) +
                                   std::size(kNumbers) + std::size(kNoticeCoordinates) + std::size(kDates) +
                                   std::size(kPlanEntry) + std::size(kSystemVariant));
 
-bool isTag(std::string_view line, std::string_view tag) {
-  return isTagLine(line) && equalsIgnoringCase(line, tag);
-}
-
 // Hands each key line of a section that has a "t_" key to `onKey`, and then each line to `onLine`.
 template <typename OnKey, typename OnLine>
 bool readSection(StrictReading& reading, std::initializer_list<std::string_view> closingTags, OnKey onKey,

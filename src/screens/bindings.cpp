@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/presence.h"
 #include "noticefile/writer_text.h"
 #include "platform/dates.h"
 #include "platform/numbers.h"
@@ -175,13 +176,6 @@ bool isPresent(const NtcRec& ntc, Group group) {
   }
 }
 
-void setPresent(NtcRec& ntc, Group group) {
-  if (group == Group::opHours) ntc.op_hours.present = true;
-  if (group == Group::digital) ntc.digital.present = true;
-  if (group == Group::allot) ntc.digital.allot.present = true;
-  if (group == Group::contour) ntc.digital.contour.present = true;
-}
-
 void showDate(Screen& screen, ControlName control, std::string_view value) {
   DateBoxes parts;
   splitDate(normalizeDate(value), parts.day, parts.month, parts.year);
@@ -245,7 +239,7 @@ void readControl(NtcRec& ntc, const Screen& screen, const Binding& one) {
   std::string value = valueOn(screen, one);
   if (value.empty()) return;
   one.field.of(ntc) = std::move(value);
-  setPresent(ntc, one.marks);
+  markPresent(ntc, one.marks);
 }
 
 }  // namespace

@@ -33,10 +33,6 @@ constexpr const char* kMnemonic = "mnemonic";
 // Boxes that only the program writes.
 constexpr ControlName kReadOnly[] = {"Txt_Filename", "Txt_Ntc_Number", "Txt_CountDownTP"};
 
-QString nameOf(std::string_view name) {
-  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
-
 // --- making
 
 QLineEdit* makeTextBox(const Control& control) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "model/notice_words.h"
+#include "model/test_points.h"
 #include "platform/dates.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -15,8 +16,6 @@
 
 namespace zamo {
 namespace {
-
-constexpr double kMostTestPoints = 32767;
 
 // What the type of a notice says of it.
 struct FormConstants {

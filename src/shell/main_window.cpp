@@ -45,10 +45,6 @@ std::string_view wordsOf(std::string_view status) {
   return status.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
-QString nameOf(std::string_view name) {
-  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
-
 QString captionOf(std::string_view caption, char mnemonic) {
   QString text = fromText(caption);
   return text.insert(text.indexOf(QLatin1Char(mnemonic)), QLatin1Char('&'));
