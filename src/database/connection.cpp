@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <utility>
 
+#include "database/files_beside.h"
+#include "database/key_value.h"
 #include "database/row_cursor.h"
 #include "database/untrusted_file.h"
 #include "platform/code_page.h"
@@ -53,6 +55,14 @@ RunTimeError engineError(sqlite3* database) {
   return {sqlite3_extended_errcode(database), textFromUtf8(sqlite3_errmsg(database))};
 }
 
+Obstacle obstacleOf(sqlite3* database) {
+  const int code = sqlite3_extended_errcode(database);
+  if ((code & 0xFF) == SQLITE_BUSY) return Obstacle::busy;
+  // For a quota, or a limit of the file's size, the engine has no number of its own.
+  const bool isUnwritten = code == SQLITE_FULL || code == SQLITE_IOERR_WRITE || code == SQLITE_IOERR_SHMSIZE;
+  return isUnwritten ? Obstacle::noRoom : Obstacle::none;
+}
+
 RunTimeError noWorkingDatabase(const Message& message, std::string_view table = {}) {
   return {SQLITE_NOTADB, message.filled({table})};
 }
@@ -63,27 +73,38 @@ void FinalizeStatement::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
 }
 
-Connection::Connection(const std::string& path) : path_(path) {
-  // The engine would wait for whoever is at the other end of a pipe.
-  for (const char* ending : {"", "-journal", "-wal", "-shm"}) requireNoDevice(path + ending);
-  sqlite3* database = nullptr;
-  // Everything runs on one thread.
-  constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
-  const int result = sqlite3_open_v2(absolutePath(path).c_str(), &database, flags, nullptr);
-  database_.reset(database);
-  if (result != SQLITE_OK) throw engineError(database);
-  restrictEngine(database);
-  limit_.emplace(database);
-  sqlite3_busy_timeout(database, kBusyMilliseconds);
+Connection::Connection(const std::string& path, Purpose purpose) : path_(path), purpose_(purpose) {
+  openEngine(absolutePath(path));
   run("PRAGMA foreign_keys = ON; PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
   constexpr int traits = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
-  if (sqlite3_create_function(database, "shown_text", 1, traits, nullptr, shownText, nullptr, nullptr) !=
+  if (sqlite3_create_function(handle(), "shown_text", 1, traits, nullptr, shownText, nullptr, nullptr) !=
       SQLITE_OK) {
     throw failure();
   }
   // The engine doesn't look at the file before the first statement.
   requirePlainTables();
   limit_->allowWork();
+}
+
+void Connection::openEngine(const std::string& path) {
+  // The engine would wait for whoever is at the other end of a pipe.
+  requireNoDevice(path_);
+  for (const char* ending : kJournalEndings) requireNoDevice(path_ + ending);
+  do {
+    limit_.reset();
+    database_.reset();
+    if (purpose_ != Purpose::settle) hold_ = holdFile(path);
+    sqlite3* database = nullptr;
+    // Everything runs on one thread.
+    constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    const int result = sqlite3_open_v2(path.c_str(), &database, flags, nullptr);
+    database_.reset(database);
+    if (result != SQLITE_OK) throw engineError(database);
+    restrictEngine(database);
+    limit_.emplace(database);
+    sqlite3_busy_timeout(database, kBusyMilliseconds);
+    // Another file can have come to the path before it was held.
+  } while (hold_ != nullptr && !leadsTo(path, hold_));
 }
 
 Connection::~Connection() {
@@ -93,7 +114,7 @@ Connection::~Connection() {
     if (select != nullptr) select->statement.reset();
   }
   // Back into one file, which can be copied and opened anywhere.
-  if (journalIsSet_) {
+  if (journalIsSet_ && purpose_ == Purpose::work) {
     sqlite3_exec(database_.get(), "PRAGMA journal_mode = DELETE", nullptr, nullptr, nullptr);
   }
 }
@@ -104,21 +125,18 @@ void Connection::Close::operator()(sqlite3* database) const {
 
 void Connection::BeginTrans() {
   if (inTransaction_) throw RunTimeError{kInvalidArgument, "A transaction is open already"};
-  // With the engine's usual journal each notice would wait for the disk three times. With this one a killed
-  // process loses nothing that was committed; a power cut may lose the last notices, never half of one.
-  if (!journalIsSet_) {
-    journalIsSet_ = true;
-    run("PRAGMA journal_mode = WAL");
-    run("PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 4000; PRAGMA cache_size = -32000");
-  }
+  obstacle_ = Obstacle::none;
+  if (!journalIsSet_) setJournal();
   run("BEGIN IMMEDIATE");
   inTransaction_ = true;
 }
 
 void Connection::CommitTrans() {
   if (!inTransaction_) throw RunTimeError{kInvalidArgument, "No transaction is open"};
+  if (purpose_ == Purpose::work && !markIsRemoved_) removeMark();
   run("COMMIT");
   inTransaction_ = false;
+  markIsRemoved_ = true;
 }
 
 void Connection::RollbackTrans() {
@@ -127,13 +145,43 @@ void Connection::RollbackTrans() {
   if (sqlite3_get_autocommit(handle()) == 0) run("ROLLBACK");
 }
 
+void Connection::setJournal() {
+  if (purpose_ == Purpose::fill) {
+    run("PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = MEMORY; PRAGMA synchronous = OFF");
+  } else {
+    // With the engine's usual journal each notice would wait for the disk three times. With this one a killed
+    // process loses nothing that was committed; a power cut may lose the last notices, never half of one.
+    run("PRAGMA journal_mode = WAL");
+    run("PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 4000");
+  }
+  run("PRAGMA cache_size = -32000");
+  journalIsSet_ = true;
+}
+
+std::int32_t Connection::mark() {
+  RowCursor row("SELECT user_version FROM pragma_user_version", *this);
+  return row.next() ? toKey(row.value(0)) : 0;
+}
+
+void Connection::setMark(std::int32_t mark) {
+  run(("PRAGMA user_version = " + std::to_string(mark)).c_str());
+}
+
+void Connection::removeMark() {
+  if (mark() != 0) setMark(0);
+}
+
 bool Connection::mergeJournal() {
   std::string mode;
   const auto take = [](void* taken, int, char** values, char**) {
     *static_cast<std::string*>(taken) = values[0];
     return 0;
   };
-  const int result = sqlite3_exec(handle(), "PRAGMA journal_mode = DELETE", take, &mode, nullptr);
+  int result = sqlite3_exec(handle(), "PRAGMA journal_mode = DELETE", take, &mode, nullptr);
+  // Nobody may be reading from it or about to write either.
+  if (result == SQLITE_OK && mode == "delete")
+    result = sqlite3_exec(handle(), "BEGIN EXCLUSIVE; COMMIT", nullptr, nullptr, nullptr);
+  if (result != SQLITE_OK && result != SQLITE_BUSY) throw failure();
   return result == SQLITE_OK && mode == "delete";
 }
 
@@ -172,6 +220,7 @@ std::shared_ptr<PreparedSelect>& Connection::keptSelect(std::string_view sql) {
 }
 
 RunTimeError Connection::failure() {
+  if (obstacle_ == Obstacle::none) obstacle_ = obstacleOf(handle());
   if (!limit_->wasReached()) return engineError(handle());
   return std::exchange(toldOfLimit_, true) ? RunTimeError{} : noWorkingDatabase(kNotWorking);
 }

@@ -13,7 +13,8 @@ namespace zamo {
 using DbConnection = std::unique_ptr<Connection>;
 
 // Opens the database at `path` into `connection`. On failure the common error box, False, and no connection.
-bool OpenDB(const Host& host, const std::string& path, DbConnection& connection);
+bool OpenDB(const Host& host, const std::string& path, DbConnection& connection,
+            Purpose purpose = Purpose::work);
 
 // Closes and releases; nothing happens when none is open.
 void closeDB(DbConnection& connection);
@@ -31,12 +32,6 @@ bool isCentralDatabase(const Host& host, Connection& connection);
 
 // Whether the database holds the table `addr_code`; otherwise the user is told that it is an old one.
 bool dbHasAddrCodeTable(const Host& host, Connection& connection);
-
-// Copies the master template onto `destination`, replacing what is there and what an earlier run may have
-// left beside it. A failure is told in a box and gives false. A destination that is the template itself, that
-// can't be replaced or that another program has open is such a failure, and is left as it was.
-bool copyMasterDB(const Host& host, const std::string& destination,
-                  const std::string& templatePath = masterTemplatePath());
 
 // Whether the template holds the table `addr_code`; otherwise the user is told that it is an old one.
 bool masterHasAddrCodeTable(const Host& host, const std::string& templatePath = masterTemplatePath());

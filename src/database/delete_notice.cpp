@@ -29,17 +29,17 @@ bool isAllotmentType(std::string_view type) {
 
 }  // namespace
 
-void deleteNtcFromDB(const Host& host, std::int32_t key, Connection& connection) {
-  inTransaction(host, "deleteNtcFromDB", connection, [&] {
+bool deleteNtcFromDB(const Host& host, std::int32_t key, Connection& connection) {
+  return inTransaction(host, "deleteNtcFromDB", connection, [&] {
     const bool isAllotment = isAllotmentType(getNoticeType(host, key, connection));
     const bool linksDeleted = !isAllotment || deleteLinkSubArea(host, key, connection);
     return deleteOneFromKv19Vorna(host, key, connection) && linksDeleted;
   });
 }
 
-void deleteContourFromDB(const Host& host, std::int32_t contourkey, Connection& connection) {
-  inTransaction(host, "deleteContourFromDB", connection,
-                [&] { return deleteContourTable(host, contourkey, connection); });
+bool deleteContourFromDB(const Host& host, std::int32_t contourkey, Connection& connection) {
+  return inTransaction(host, "deleteContourFromDB", connection,
+                       [&] { return deleteContourTable(host, contourkey, connection); });
 }
 
 bool deleteOneFromKv19Vorna(const Host& host, std::int32_t key, Connection& connection) {

@@ -8,9 +8,10 @@
 
 namespace zamo {
 
-// Each in one transaction. A deleted contour becomes a placeholder again, since allotments may link to it.
-void deleteNtcFromDB(const Host& host, std::int32_t key, Connection& connection);
-void deleteContourFromDB(const Host& host, std::int32_t contourkey, Connection& connection);
+// Each in one transaction; gives whether it was committed. A deleted contour becomes a placeholder again,
+// since allotments may link to it.
+bool deleteNtcFromDB(const Host& host, std::int32_t key, Connection& connection);
+bool deleteContourFromDB(const Host& host, std::int32_t contourkey, Connection& connection);
 
 // The parts of it, and what corrections delete, in the caller's transaction. Errors in the links of one
 // allotment are shown by deleteLinkSubArea.

@@ -1,7 +1,8 @@
 #include "database/load.h"
 
-#include <cstdio>
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "database/db_connection.h"
 #include "database/lookups.h"
@@ -24,6 +25,7 @@ namespace {
 const Message kNoticeStatus("status: a notice is loaded", "Notice no : %1");
 const Message kRepeatsReference("question \"DataBase : Error\": a notice of the administration has the reference already", "Notice No %1: has the same AdminRefID, Adm. Do you still want to save it?");
 const Message kRepeatsElements("question \"DataBase : Error\": a notice of the administration has the identifying elements already", "Notice No %1: has the same Identifying elements, Adm. Do you still want to save it?");
+const Message kNoRoom("question \"Disk full\", once a load: a notice found no room on the disk; without a user the load stops", "The disk is full or fails. Notice No %1 was not saved to the database, and those behind it may not be either.\r\nDo you want to go on loading?");
 const Message kReportTitle("duplicates report: first line, with the notice file", "The report of duplicate notices in %1");
 const Message kReportProgram("duplicates report: second line, with the caption of the window", "with %1");
 const Message kReportStamp("duplicates report: third line, with date, time and logon name", "On %1 -  %2 by %3");
@@ -42,31 +44,35 @@ std::string spaced(std::int64_t number) {
   return " " + std::to_string(number) + " ";
 }
 
-// The duplicates report, written as the load goes on and gone when it has nothing to tell.
+// The duplicates report, written as the load goes on. Until it has something to tell there is none, so that a
+// load that is killed leaves none either.
 class DuplicatesReport {
  public:
-  DuplicatesReport(const Host& host, const LoadRun& load) : path_(reportPath(load.ntcFileName, host.now())) {
-    const DateTime now = host.now();
-    replaceFile(path_, kReportTitle.filled({textFromUtf8(load.ntcFileName)}) + "\r\n" +
-                           kReportProgram.filled({load.windowCaption}) + "\r\n" +
-                           kReportStamp.filled({shortDateText(now.date), timeText(now), getLogonName(host)}) +
-                           "\r\n \r\n");
+  DuplicatesReport(const Host& host, const LoadRun& load)
+      : path_(reportPath(load.ntcFileName, host.now())), head_(headOf(host, load)) {
+    requireReplaceable(path_);
   }
 
   void add(std::string_view line) { appendToFile(path_, std::string(line).append(kLineEnd)); }
 
-  // From now on the report stays.
-  void mark() { marked_ = true; }
+  // From now on there is one.
+  void mark() {
+    if (!marked_) replaceFile(path_, head_);
+    marked_ = true;
+  }
 
-  void finish(const LoadRun& load) {
-    if (marked_) {
-      load.showReport(path_, kReportFallback.words());
-    } else {
-      removeFile(path_);
-    }
+  void finish(const LoadRun& load) const {
+    if (marked_) load.showReport(path_, kReportFallback.words());
   }
 
  private:
+  static std::string headOf(const Host& host, const LoadRun& load) {
+    const DateTime now = host.now();
+    return kReportTitle.filled({textFromUtf8(load.ntcFileName)}) + "\r\n" +
+           kReportProgram.filled({load.windowCaption}) + "\r\n" +
+           kReportStamp.filled({shortDateText(now.date), timeText(now), getLogonName(host)}) + "\r\n \r\n";
+  }
+
   static std::string reportPath(const std::string& ntcFileName, const DateTime& now) {
     const Date& date = now.date;
     return baseOf(ntcFileName) + "_duplicat_report_" + std::to_string(static_cast<unsigned>(date.day())) +
@@ -76,6 +82,7 @@ class DuplicatesReport {
   }
 
   std::string path_;
+  std::string head_;
   bool marked_ = false;
 };
 
@@ -91,6 +98,7 @@ struct Loading {
   std::string logonName;
   std::string email;
   LoadResult result;
+  bool isWithoutRoom = false;  // and the user goes on all the same
   // Of the row found by the last test by elements; a test by reference gives none.
   std::string foundReference;
 };
@@ -138,6 +146,24 @@ void reportContour(Loading& loading, const ContourOutcome& outcome) {
   report.add(" ");
 }
 
+// After the first one, a notice that finds no room on the disk isn't told: its boxes are held back until that
+// is known.
+bool store(Loading& loading, ContourOutcome& outcome) {
+  std::vector<Box> boxes;
+  Host host = loading.host;
+  if (loading.isWithoutRoom) host.showBox = [&boxes](const Box& box) { boxes.push_back(box); };
+  const bool stored = writeNtcToDB(host, loading.reading.ntc, loading.connection, outcome, false);
+  const bool lacksRoom = !stored && loading.connection.obstacle() == Obstacle::noRoom;
+  if (!lacksRoom) std::for_each(boxes.begin(), boxes.end(), loading.host.showBox);
+  if (lacksRoom && !std::exchange(loading.isWithoutRoom, true)) {
+    const std::string number = std::to_string(loading.result.noticesRead);
+    Box question{kNoRoom.filled({number}), "Disk full", BoxIcon::exclamation};
+    question.needsUser = true;
+    if (!loading.host.askYesNo(question)) loading.result.end = LoadEnd::stopped;
+  }
+  return stored;
+}
+
 void storeNotice(Loading& loading) {
   NtcRec& ntc = loading.reading.ntc;
   std::int32_t foundKey = 0;
@@ -152,7 +178,7 @@ void storeNotice(Loading& loading) {
     if (!wanted) return reportLeftOut(loading, duplicate);
   }
   ContourOutcome outcome;
-  const bool stored = writeNtcToDB(loading.host, ntc, loading.connection, outcome, false);
+  const bool stored = store(loading, outcome);
   loading.result.complete = stored && loading.result.complete;
   if (duplicate != Duplicate::none) {
     reportStored(loading, duplicate, std::int64_t{admNumericBase(ntc.t_adm)} + lastKey + 1, foundKey);
@@ -198,10 +224,11 @@ LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadR
                     shortDateText(host.now().date),
                     getLogonName(host),
                     {},
-                    {0, true},
+                    {0, true, LoadEnd::done},
+                    false,
                     {}};
     const bool reachedEnd = guarded(host, "readNtcsFromFileToDB", [&] {
-      while (!lines.atEnd()) {
+      while (!lines.atEnd() && loading.result.end != LoadEnd::stopped) {
         readLine(loading.reading);
         // Unlike the checks, the load takes these tags in upper case alone.
         if (loading.reading.currentLine == kHeadTag) {
@@ -210,7 +237,7 @@ LoadResult readNtcsFromFileToDB(const Host& host, LineSource& lines, const LoadR
           loadNotice(loading);
         }
       }
-      return true;
+      return loading.result.end != LoadEnd::stopped;
     });
     loading.result.complete = reachedEnd && loading.result.complete;
     loading.report.finish(load);

@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <random>
 #include <system_error>
@@ -17,6 +18,8 @@ constexpr std::size_t kLargePiece = 64 * std::size_t{1024};
 constexpr std::size_t kLongestOwnName = 128;
 constexpr int kRandomLetters = 12;
 
+constexpr std::string_view kEnding = ".part";
+
 std::string nameNobodyHas(const std::string& place) {
   std::filesystem::path path(place);
   std::string name = path.filename().string();
@@ -25,7 +28,7 @@ std::string nameNobodyHas(const std::string& place) {
   std::random_device random;
   std::uniform_int_distribution<int> letter('a', 'z');
   for (int i = 0; i < kRandomLetters; ++i) name += static_cast<char>(letter(random));
-  return path.replace_filename(name + ".part").string();
+  return path.replace_filename(name.append(kEnding)).string();
 }
 
 template <typename Taker>
@@ -76,6 +79,14 @@ void NewFile::takePlace() {
   requireReplaceable(place_);
   renameFile(path_, place_);
   isInPlace_ = true;
+}
+
+bool isNewFileName(std::string_view name, std::string_view place) {
+  if (!name.starts_with(place) || name.size() != place.size() + 1 + kRandomLetters + kEnding.size())
+    return false;
+  const std::string_view letters = name.substr(place.size() + 1, kRandomLetters);
+  return name[place.size()] == '.' && name.ends_with(kEnding) &&
+         std::all_of(letters.begin(), letters.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
 void replaceFile(const std::string& path, std::string_view content) {

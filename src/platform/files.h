@@ -41,6 +41,9 @@ class NewFile {
   bool isInPlace_ = false;
 };
 
+// Whether a NewFile for the place has or had this name; both without a folder.
+bool isNewFileName(std::string_view name, std::string_view place);
+
 // Puts `content` in place of the file. On failure the old file stands as it was and a RunTimeError is thrown.
 void replaceFile(const std::string& path, std::string_view content);
 

@@ -21,6 +21,7 @@ struct Box {
   std::string title;  // empty: the program's own name
   BoxIcon icon = BoxIcon::none;
   BoxButtons buttons = BoxButtons::ok;
+  bool needsUser = false;  // a question that nobody else answers with Yes
 };
 
 struct OpenFileRequest {
@@ -36,6 +37,8 @@ struct Host {
   std::function<std::string(const Box&)> askText;
   std::function<void()> beep;
   std::function<void(std::string_view)> setStatus;
+  // A line of its own besides the status, which stays until the next one; an empty one takes it away.
+  std::function<void(std::string_view)> setNote = [](std::string_view) {};
   std::function<void()> repaint;
   Yield yield;
   std::function<void(bool)> setHourglass;

@@ -29,8 +29,9 @@ Host makePlainHost(bool answer) {
   host.showBox = printBox;
   host.askYesNo = [answer](const Box& box) {
     printBox(box);
-    printLine(answer ? "Yes" : "No");
-    return answer;
+    const bool isYes = answer && !box.needsUser;
+    printLine(isYes ? "Yes" : "No");
+    return isYes;
   };
   host.askText = [](const Box& box) {
     printBox(box);
@@ -38,6 +39,9 @@ Host makePlainHost(bool answer) {
   };
   host.beep = [] {};
   host.setStatus = printLine;
+  host.setNote = [](std::string_view text) {
+    if (!text.empty()) printLine(text);
+  };
   host.repaint = [] {};
   host.setHourglass = [](bool) {};
   host.now = systemNow;

@@ -142,6 +142,11 @@ Places placesOfLevel(const NoticeForm& form) {
   return form.work.run.ValLevel == kCompleteWithGeo ? Places::byMap : Places::byCodes;
 }
 
+// The database can't be written to just now, which the user has been told: what stands on the screen stays.
+bool isHindered(const Workplace& work) {
+  return work.run.DbConn->obstacle() != Obstacle::none;
+}
+
 // A TB notice is replaced by a new one, which stands at the end of the selection. The new one is stored
 // before the old one goes, so that a failure loses neither.
 bool replaceNotice(NoticeForm& form, NtcRec& ntc) {
@@ -149,8 +154,8 @@ bool replaceNotice(NoticeForm& form, NtcRec& ntc) {
   RunState& run = work.run;
   ContourOutcome outcome;
   if (!writeNtcToDB(work.host, ntc, *run.DbConn, outcome, false)) return false;
-  deleteNtcFromDB(work.host, run.SelKey, *run.DbConn);
   appendKeyToList(run.IndexList, run.NtcCount, ntc.vornakey);
+  if (!deleteNtcFromDB(work.host, run.SelKey, *run.DbConn) && isHindered(work)) return false;
   markDeleted(run);
   showNeighbourAfterDelete(form);
   return true;
@@ -302,7 +307,7 @@ void deleteNotice(NoticeForm& form) {
   RunState& run = form.work.run;
   if (!work.host.askYesNo({kAskDelete.filled({}), "Delete Notice"})) return;
   const auto remove = isForm(form, kContourForm) ? deleteContourFromDB : deleteNtcFromDB;
-  remove(work.host, run.SelKey, *run.DbConn);
+  if (!remove(work.host, run.SelKey, *run.DbConn) && isHindered(work)) return;
   markDeleted(run);
   form.work.state.ntcListChanged = true;
   showNeighbourAfterDelete(form);

@@ -58,6 +58,18 @@ QLineEdit* makeReadOnlyLine(std::string_view name, const QString& spokenName) {
   return line;
 }
 
+// One line that takes no room while it has nothing to say.
+QLabel* makeNote() {
+  auto* note = new QLabel;
+  note->setObjectName("LblNote");
+  note->setAccessibleName("Note");
+  note->setTextFormat(Qt::PlainText);
+  note->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  note->setWordWrap(true);
+  note->hide();
+  return note;
+}
+
 // Stands where the grid is hidden.
 QLabel* makeEmptyGrid() {
   auto* panel = new QLabel;
@@ -144,6 +156,8 @@ void MainWindow::makeControls() {
   ButtonReVal_ =
       makeButton("ButtonReVal", "ReValidate", 'R', [](Shell& shell, QWidget&) { ButtonReVal(shell); });
 
+  note_ = makeNote();
+
   strip_ = new QFrame;
   auto* const strip = new QGridLayout(strip_);
   strip->setContentsMargins(0, 0, 0, 0);
@@ -154,6 +168,7 @@ void MainWindow::makeControls() {
   strip->addWidget(ButtonReVal_, 0, 3);
   // All of the width: the longest status just fits a small display that is scaled twice.
   strip->addWidget(TxtProcessingStatus_, 1, 0, 1, 4);
+  strip->addWidget(note_, 2, 0, 1, 4);
   strip->setColumnStretch(1, 1);
 
   NtcDataGrid_ = new NoticeGrid(shell_);
@@ -213,6 +228,11 @@ void MainWindow::setStatus(std::string_view text) {
   const auto before = std::chrono::steady_clock::now();
   paintStatus();
   numbersPainted_ += std::chrono::steady_clock::now() - before;
+}
+
+void MainWindow::setNote(std::string_view text) {
+  note_->setText(fromText(text));
+  note_->setVisible(!text.empty());
 }
 
 void MainWindow::paintStatus() {

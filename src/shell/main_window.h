@@ -34,6 +34,9 @@ class MainWindow final : public QMainWindow {
   // are left to the next refresh.
   void setStatus(std::string_view text);
 
+  // The line below the status; an empty one is hidden.
+  void setNote(std::string_view text);
+
   // Brings to the display what has changed, and handles what has queued up but for the user's input.
   void refresh();
 
@@ -66,6 +69,7 @@ class MainWindow final : public QMainWindow {
   QLabel* LblInputTxt_ = nullptr;
   QLineEdit* TxtFileName_ = nullptr;
   QLineEdit* TxtProcessingStatus_ = nullptr;
+  QLabel* note_ = nullptr;
   QAction* errorMark_ = nullptr;
   QPushButton* ButtonViewFile_ = nullptr;
   QPushButton* ButtonReVal_ = nullptr;

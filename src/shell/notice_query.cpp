@@ -104,6 +104,7 @@ void mnuFileOpenDB(Shell& shell) {
   run.startTime = run.fileTime = timeStamp(shell.host.now());
   screen.gridVisible = false;
   screen.statusVisible = false;
+  shell.host.setNote("");
   detachNoticeGrid(shell);
   closeDB(run.DbConn);
   screen.inputVisible = true;

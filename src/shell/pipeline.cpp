@@ -3,7 +3,9 @@
 #include <initializer_list>
 
 #include "database/agency_lookups.h"
+#include "database/corrections.h"
 #include "database/load.h"
+#include "database/new_database.h"
 #include "model/ntc_reset.h"
 #include "noticefile/structure_check.h"
 #include "platform/code_page.h"
@@ -208,6 +210,7 @@ void ButtonViewFile(const Shell& shell) {
 
 bool chooseNoticeFile(Shell& shell) {
   shell.screen.gridVisible = false;
+  shell.host.setNote("");
   detachNoticeGrid(shell);
   closeDB(shell.run.DbConn);
   disableQueryMenus(shell);
@@ -278,6 +281,56 @@ void completeValidationGeo(Shell& shell, Verdict& verdict) {
   validateCompletely(shell, verdict, kWithGeo);
 }
 
+namespace {
+
+// The report of duplicates, which is shown when its database has its place and goes when it got none.
+struct LoadReport {
+  std::string path;
+  std::string_view messageHead;
+};
+
+LoadResult fill(Shell& shell, LineSource& lines, const std::string& path, LoadReport& report) {
+  const LoadRun load{shell.run.CurrNtc, shell.run.NtcFileName, kWindowVersion,
+                     [&report](const std::string& written, std::string_view messageHead) {
+                       report = {written, messageHead};
+                     }};
+  LoadResult result;
+  DbConnection filling;
+  if (!OpenDB(shell.host, path, filling, Purpose::fill)) return result;
+  result = readNtcsFromFileToDB(shell.host, lines, load, *filling);
+  if (result.end != LoadEnd::failed) markAsLoaded(*filling);
+  return result;
+}
+
+// What a load that the user stopped has stored takes the place of no other database.
+bool mayTakePlace(const LoadResult& result, const NewDatabase& database) {
+  return result.end == LoadEnd::done || (result.end == LoadEnd::stopped && !database.replacesAnother());
+}
+
+// Loads the notices into the new database and opens that in its place. Gives whether it is open; until it has
+// its place, everything is as before.
+bool fillAndOpen(Shell& shell, LineSource& lines, NewDatabase* database, bool& complete) {
+  const Hourglass hourglass(shell.host);
+  RunState& run = shell.run;
+  if (database == nullptr) {
+    // What stands there after a failed copy is another run's, and not to be added to.
+    if (!fileExists(run.DbFileName)) OpenDB(shell.host, run.DbFileName, run.DbConn);
+    return false;
+  }
+  closeDB(run.DbConn);
+  LoadReport report;
+  const LoadResult result = fill(shell, lines, database->path(), report);
+  complete = result.complete;
+  if (!mayTakePlace(result, *database) || !putInPlace(shell.host, *database)) {
+    if (!report.path.empty()) removeFile(report.path);
+    return false;
+  }
+  if (!report.path.empty()) showReportInNotepad(shell.host, report.path, report.messageHead);
+  return OpenDB(shell.host, run.DbFileName, run.DbConn);
+}
+
+}  // namespace
+
 void createAndLoadDb(Shell& shell, Verdict& verdict) {
   RunState& run = shell.run;
   const auto fail = [&verdict] {
@@ -285,6 +338,7 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
     verdict.machineFailed = true;
   };
   detachNoticeGrid(shell);
+  shell.host.setNote("");
   if (!isTemplateReadable(shell.host)) return fail();
   shell.screen.fileName = trimText(textFromUtf8(run.NtcFileName));
   shell.draw(shell.screen);
@@ -293,23 +347,16 @@ void createAndLoadDb(Shell& shell, Verdict& verdict) {
     throw RunTimeError{kPermissionDenied,
                        "The notice file stands where its database would: " + textFromUtf8(run.DbFileName)};
   }
-  const bool copied = copyMasterDB(shell.host, run.DbFileName);
+  const MasterCopy copy = copyMasterDB(shell.host, run.DbFileName);
+  if (copy.isRefused) return fail();
   showStatus(shell, kCreating.words());
   resetAdm(run.CurrNtc);
   LineSource lines(run.NtcFileName);
   resetNtc(run.CurrNtc);
   showStatus(shell, kLoading.words());
-  {
-    const Hourglass hourglass(shell.host);
-    const auto showReport = [&shell](const std::string& path, std::string_view messageHead) {
-      showReportInNotepad(shell.host, path, messageHead);
-    };
-    const LoadRun load{run.CurrNtc, run.NtcFileName, kWindowVersion, showReport};
-    // What stands there after a failed copy is another run's, and not to be added to.
-    const bool isOld = !copied && fileExists(run.DbFileName);
-    if (isOld || !OpenDB(shell.host, run.DbFileName, run.DbConn)) return fail();
-    if (!readNtcsFromFileToDB(shell.host, lines, load, *run.DbConn).complete) fail();
-  }
+  bool complete = false;
+  if (!fillAndOpen(shell, lines, copy.database.get(), complete)) return fail();
+  if (!complete) fail();
   shell.screen.fileName.insert(0, "TEXT FILE : ");
   shell.draw(shell.screen);
   runQuery(shell);

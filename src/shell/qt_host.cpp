@@ -182,6 +182,7 @@ Host makeQtHost(MainWindow& window) {
   host.askText = [&window](const Box& box) { return askText(window, box); };
   host.beep = QApplication::beep;
   host.setStatus = [&window](std::string_view text) { window.setStatus(text); };
+  host.setNote = [&window](std::string_view text) { window.setNote(text); };
   host.repaint = refresh;
   host.yield = refresh;
   host.setHourglass = setHourglass;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "database/db_connection.h"
+#include "database/new_database.h"
 #include "database/recordset.h"
 #include "database/working_database.h"
 #include "platform/run_time_error.h"
@@ -211,6 +211,12 @@ class ACopyOfTheTemplate : public ADatabaseOperation {
     return place;
   }
 
+  // A database that nothing is loaded into.
+  void copy(const std::string& place, const std::string& from = kTemplate) {
+    const MasterCopy made = copyMasterDB(host, place, from);
+    if (made.database != nullptr) putInPlace(host, *made.database);
+  }
+
   void expectOpens(const std::string& database) {
     DbConnection opened;
     EXPECT_TRUE(OpenDB(host, database, opened));
@@ -221,7 +227,7 @@ class ACopyOfTheTemplate : public ADatabaseOperation {
 
 TEST_F(ACopyOfTheTemplate, is_the_template_byte_by_byte) {
   const std::string place = makeFolder("new");
-  copyMasterDB(host, place + "/notices.mdb");
+  copy(place + "/notices.mdb");
   expectNoBox();
   EXPECT_TRUE(test::readFile(place + "/notices.mdb") == test::readFile(kTemplate));
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb"}));
@@ -236,7 +242,7 @@ TEST_F(ACopyOfTheTemplate, replaces_an_older_database_and_what_the_engine_left_b
   for (const char* ending : {"-wal", "-journal", "-shm"})
     folder.write("old/notices.mdb" + std::string(ending), "stale");
   folder.write("old/notices.mdb.txt", "not touched");
-  copyMasterDB(host, database);
+  copy(database);
   expectNoBox();
   EXPECT_TRUE(test::readFile(database) == test::readFile(kTemplate));
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb", "notices.mdb.txt"}));
@@ -256,7 +262,7 @@ TEST_F(ACopyOfTheTemplate, holds_nothing_of_a_load_that_was_killed) {
     load.CommitTrans();
     for (const char* ending : {"", "-wal", "-shm"}) fs::copy_file(path + ending, database + ending);
   }
-  copyMasterDB(host, database);
+  copy(database);
   expectNoBox();
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb"}));
   EXPECT_EQ(test::RawDatabase(database).value("SELECT count(*) FROM file_trace"), "0");
@@ -266,7 +272,7 @@ TEST_F(ACopyOfTheTemplate, without_the_template_is_told_of_and_leaves_what_was_t
   const std::string place = makeFolder("a");
   for (const char* name : {"notices.mdb", "notices.mdb-wal"})
     folder.write(std::string("a/") + name, "before");
-  copyMasterDB(host, place + "/notices.mdb", place + "/MasterHDLK_WQN.mdb");
+  copy(place + "/notices.mdb", place + "/MasterHDLK_WQN.mdb");
   expectOnlyBox("Please copy MasterHDLK_WQN.mdb to the same location as the executable", "");
   EXPECT_EQ(test::readFile(place + "/notices.mdb"), "before");
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb", "notices.mdb-wal"}));
@@ -282,7 +288,7 @@ TEST_F(ACopyOfTheTemplate, in_a_read_only_folder_is_told_of_and_leaves_what_was_
       place, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec);
   {
     const OrdinaryUser user;
-    copyMasterDB(host, place + "/notices.mdb", folder.file("template.mdb"));
+    copy(place + "/notices.mdb", folder.file("template.mdb"));
   }
   fs::permissions(place, fs::perms::owner_all);
   expectOnlyBox("Error 70 : Permission denied: " + place + "/notices.mdb", "");
@@ -294,7 +300,7 @@ TEST_F(ACopyOfTheTemplate, onto_a_write_protected_database_is_told_of_and_leaves
   const std::string place = makeFolder("protected");
   folder.write("protected/notices.mdb", "before");
   fs::permissions(place + "/notices.mdb", fs::perms::owner_read);
-  copyMasterDB(host, place + "/notices.mdb");
+  copy(place + "/notices.mdb");
   expectOnlyBox("Error 70 : Permission denied: " + place + "/notices.mdb", "");
   EXPECT_EQ(test::readFile(place + "/notices.mdb"), "before");
   EXPECT_EQ(filesOf(place), (std::vector<std::string>{"notices.mdb"}));
@@ -305,7 +311,7 @@ TEST_F(ACopyOfTheTemplate, goes_through_no_link_that_waits_beside_its_place) {
   folder.write("links/precious", "not touched");
   fs::create_symlink("precious", place + "/notices.mdb.part");
   fs::create_symlink("precious", place + "/notices.mdb");
-  copyMasterDB(host, place + "/notices.mdb");
+  copy(place + "/notices.mdb");
   expectNoBox();
   EXPECT_EQ(test::readFile(place + "/precious"), "not touched");
   EXPECT_TRUE(test::readFile(place + "/notices.mdb") == test::readFile(kTemplate));
@@ -317,7 +323,7 @@ TEST_F(ACopyOfTheTemplate, on_a_full_disk_is_told_of_and_leaves_what_was_there) 
     folder.write(std::string("full/") + name, "before");
   {
     const FileSizeLimit limit(10000);
-    copyMasterDB(host, place + "/notices.mdb");
+    copy(place + "/notices.mdb");
   }
   expectOnlyBox("Error 61 : Disk full: " + place + "/notices.mdb", "");
   EXPECT_EQ(test::readFile(place + "/notices.mdb"), "before");
@@ -325,7 +331,7 @@ TEST_F(ACopyOfTheTemplate, on_a_full_disk_is_told_of_and_leaves_what_was_there) 
 }
 
 TEST_F(ACopyOfTheTemplate, that_failed_lets_no_database_open) {
-  copyMasterDB(host, folder.file("none.mdb"), folder.file("MasterHDLK_WQN.mdb"));
+  copy(folder.file("none.mdb"), folder.file("MasterHDLK_WQN.mdb"));
   expectOnlyBox("Please copy MasterHDLK_WQN.mdb to the same location as the executable", "");
   script.boxes.clear();
   DbConnection opened;
@@ -336,7 +342,7 @@ TEST_F(ACopyOfTheTemplate, that_failed_lets_no_database_open) {
 TEST_F(ACopyOfTheTemplate, onto_a_folder_is_told_of) {
   const std::string place = makeFolder("b");
   fs::create_directory(place + "/notices.mdb");
-  copyMasterDB(host, place + "/notices.mdb");
+  copy(place + "/notices.mdb");
   expectOnlyBox("Error 70 : Permission denied: " + place + "/notices.mdb", "");
   EXPECT_TRUE(fs::is_directory(place + "/notices.mdb"));
 }

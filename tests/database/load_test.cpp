@@ -2,7 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "database/db_connection.h"
@@ -244,10 +247,94 @@ TEST_F(Load, treats_a_reference_with_an_apostrophe_as_new_after_the_error_box) {
   EXPECT_EQ(script.boxes[0].title, "findByAdmRefId");
 }
 
+// No file may grow beyond so many bytes while this lives.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : handler_(::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limited{bytes, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    ::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+class ALoadOnAFullDisk : public Load {
+ protected:
+  ALoadOnAFullDisk() { OpenDB(host, folder.file("notices.mdb"), connection, Purpose::fill); }
+
+  // More notices than there is room for, with one in the middle that no database takes.
+  static std::string manyNotices() {
+    std::string all(kHead);
+    for (int i = 0; i < 1500; ++i) {
+      all += i == 1400 ? assignment("BAD", "not a number")
+                       : assignment("A" + std::to_string(i), std::to_string(i + 1));
+    }
+    return all;
+  }
+
+  std::size_t boxesOf(std::string_view text) const {
+    return static_cast<std::size_t>(std::count_if(script.boxes.begin(), script.boxes.end(),
+                                                  [text](const Box& box) { return box.text == text; }));
+  }
+
+  void expectAskedOnce() {
+    ASSERT_EQ(script.questions.size(), 1U);
+    EXPECT_TRUE(script.questions[0].text.starts_with("The disk is full or fails. Notice No "));
+    EXPECT_TRUE(
+        script.questions[0].text.ends_with(" was not saved to the database, and those behind it may not be "
+                                           "either.\r\nDo you want to go on loading?"));
+    EXPECT_EQ(script.questions[0].title, "Disk full");
+    EXPECT_TRUE(script.questions[0].needsUser);
+  }
+};
+
+TEST_F(ALoadOnAFullDisk, asks_once_and_stops_on_no_with_whole_notices) {
+  script.answers = {false};
+  LoadResult result;
+  {
+    const FileSizeLimit limit(std::filesystem::file_size(folder.file("notices.mdb")) + 100'000);
+    result = load(manyNotices());
+  }
+  EXPECT_EQ(result.end, LoadEnd::stopped);
+  EXPECT_FALSE(result.complete);
+  EXPECT_LT(result.noticesRead, 1400);
+  expectAskedOnce();
+  EXPECT_EQ(boxesOf("The data was not saved to the database"), 1U);
+  closeDB(connection);
+  EXPECT_EQ(count("fmtv_vorna"), std::to_string(result.noticesRead - 1));
+  EXPECT_EQ(count("proc_ntc_hist"), std::to_string(result.noticesRead - 1));
+  EXPECT_EQ(raw().value("PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(ALoadOnAFullDisk, goes_on_on_yes_and_tells_only_of_what_fails_otherwise) {
+  script.answers = {true};
+  LoadResult result;
+  {
+    const FileSizeLimit limit(std::filesystem::file_size(folder.file("notices.mdb")) + 100'000);
+    result = load(manyNotices());
+  }
+  EXPECT_EQ(result.end, LoadEnd::done);
+  EXPECT_FALSE(result.complete);
+  EXPECT_EQ(result.noticesRead, 1500);
+  expectAskedOnce();
+  // That of the first notice without room, and that of the bad one.
+  EXPECT_EQ(boxesOf("The data was not saved to the database"), 2U);
+}
+
 TEST_F(Load, that_cannot_write_its_report_stores_nothing_and_says_why) {
   std::filesystem::create_directory(report());
   const LoadResult result = load(std::string(kHead) + assignment("A1"));
   EXPECT_FALSE(result.complete);
+  EXPECT_EQ(result.end, LoadEnd::failed);
   EXPECT_EQ(count("fmtv_vorna"), "0");
   ASSERT_EQ(script.boxes.size(), 1U);
   EXPECT_EQ(script.boxes[0].title, "readNtcsFromFileToDB");

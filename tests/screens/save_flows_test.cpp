@@ -282,6 +282,73 @@ TEST_F(SaveFlows, an_update_that_the_database_refuses_is_told_and_the_screen_sta
   EXPECT_EQ(stored(key).t_site_name, "BOURGES");
 }
 
+// Another program that is in the middle of a change, for longer than one waits.
+class ABusyDatabase : public SaveFlows {
+ protected:
+  void expectTold(const std::string& operation) {
+    ASSERT_FALSE(script.boxes.empty());
+    EXPECT_EQ(script.boxes[0].title + ": " + script.boxes[0].text,
+              operation + ": Erreur 5:database is locked");
+    EXPECT_FALSE(closed);
+  }
+
+  std::unique_ptr<test::RawDatabase> other;
+  void begin() {
+    other = std::make_unique<test::RawDatabase>(run.DbFileName);
+    other->run("BEGIN IMMEDIATE");
+  }
+};
+
+TEST_F(ABusyDatabase, leaves_an_update_on_the_form_until_it_is_free) {
+  const std::int32_t key = add("GT1");
+  script.answers = {true, true};
+  open(0, [&](NoticeForm& form) {
+    type(form, "Txt_4A_SiteName", "NEVERS");
+    begin();
+    const auto start = std::chrono::steady_clock::now();
+    click(form, "Button_Next");
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1900));
+    expectTold("updateNtcInDB");
+    EXPECT_EQ(script.boxes.back().text, "Failed to update the notice in the Database");
+    EXPECT_EQ(form.screen.text("Txt_4A_SiteName"), "NEVERS");
+    EXPECT_EQ(stored(key).t_site_name, "BOURGES");
+    other->run("COMMIT");
+    click(form, "Button_Next");
+    EXPECT_EQ(stored(key).t_site_name, "NEVERS");
+  });
+}
+
+TEST_F(ABusyDatabase, keeps_a_notice_on_the_form_that_was_to_be_deleted) {
+  const std::int32_t key = add("GT1");
+  add("GS1");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    type(form, "Txt_4A_SiteName", "NEVERS");
+    begin();
+    click(form, "Button_Finish");
+    expectTold("deleteNtcFromDB");
+    EXPECT_EQ(form.screen.text("Txt_4A_SiteName"), "NEVERS");
+    other.reset();
+  });
+  EXPECT_EQ(run.IndexList[0], key);
+  EXPECT_TRUE(isStored(key));
+}
+
+TEST_F(ABusyDatabase, keeps_a_TB_notice_on_the_form) {
+  const std::int32_t key = add("TB5");
+  script.answers = {true};
+  open(0, [&](NoticeForm& form) {
+    type(form, "Txt_TrgAdmRefID", "F-NEW");
+    begin();
+    click(form, "Button_Next");
+    expectTold("writeNtcToDB");
+    EXPECT_EQ(form.screen.text("Txt_TrgAdmRefID"), "F-NEW");
+    other.reset();
+  });
+  EXPECT_EQ(run.NtcCount, 1);
+  EXPECT_TRUE(isStored(key));
+}
+
 TEST_F(SaveFlows, a_recorded_notice_is_updated_as_a_modification) {
   NtcRec ntc = makeGt1();
   ntc.t_action = "RECORDED";

@@ -18,10 +18,11 @@ struct CompanionRun {
   std::string messages;
 };
 
-// `arguments` as a shell takes them; the program runs in the folder.
-inline CompanionRun runCompanion(const TempFolder& folder, const std::string& arguments) {
-  const std::string command = "cd '" + folder.path() + "' && " ZAMO_BIN "/zamo-kv19-batch " + arguments +
-                              " >out.log 2>err.log </dev/null";
+// `arguments` as a shell takes them, `before` what it does first; the program runs in the folder.
+inline CompanionRun runCompanion(const TempFolder& folder, const std::string& arguments,
+                                 const std::string& before = "") {
+  const std::string command = "cd '" + folder.path() + "' && " + before + ZAMO_BIN "/zamo-kv19-batch " +
+                              arguments + " >out.log 2>err.log </dev/null";
   const int result = std::system(command.c_str());
   return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, readFile(folder.file("out.log")),
           readFile(folder.file("err.log"))};

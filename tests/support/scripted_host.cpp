@@ -26,6 +26,7 @@ Host makeScriptedHost(Script& script) {
   };
   host.beep = [&script] { ++script.beeps; };
   host.setStatus = [&script](std::string_view text) { script.statuses.emplace_back(text); };
+  host.setNote = [&script](std::string_view text) { script.note = text; };
   host.repaint = [&script] { ++script.repaints; };
   host.yield = [&script] { ++script.yields; };
   host.setHourglass = [&script](bool on) { script.hourglasses = on ? 1 : 0; };

@@ -18,6 +18,7 @@ struct Script {
   std::vector<Box> questions;
   std::vector<Box> prompts;
   std::vector<std::string> statuses;
+  std::string note;  // that stands now
   std::vector<OpenFileRequest> fileRequests;
   std::vector<std::string> viewed;
   int repaints = 0;

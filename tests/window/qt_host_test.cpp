@@ -54,6 +54,21 @@ TEST_F(QtHost, a_box_shows_its_text_title_and_icon) {
   host.showBox({"The section <HEAD>\r\nis \261 missing", "Information", BoxIcon::information});
 }
 
+TEST_F(QtHost, a_note_is_a_line_of_its_own_until_it_is_taken_away) {
+  host.setStatus("the status");
+  auto* const note = window.findChild<QLabel*>("LblNote");
+  ASSERT_NE(note, nullptr);
+  EXPECT_TRUE(note->isHidden());
+  host.setNote("kept as <b>caf\351</b>.mdb");
+  EXPECT_FALSE(note->isHidden());
+  EXPECT_EQ(note->text(), "kept as <b>caf\u00E9</b>.mdb");
+  EXPECT_EQ(note->textFormat(), Qt::PlainText);
+  EXPECT_FALSE(note->accessibleName().isEmpty());
+  EXPECT_EQ(window.findChild<QLineEdit*>("TxtProcessingStatus")->text(), "the status");
+  host.setNote("");
+  EXPECT_TRUE(note->isHidden());
+}
+
 TEST_F(QtHost, a_box_without_a_title_has_the_programs_name) {
   const std::pair<BoxIcon, QMessageBox::Icon> icons[] = {
       {BoxIcon::none, QMessageBox::NoIcon},
